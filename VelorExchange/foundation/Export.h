@@ -1,0 +1,15 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+/// \file
+/// VELOREXCHANGE_EXPORT marks what a host may call; everything else stays inside the library.
+
+#if defined(_WIN32)
+#if defined(VELOREXCHANGE_BUILDING)
+#define VELOREXCHANGE_EXPORT __declspec(dllexport)
+#else
+#define VELOREXCHANGE_EXPORT __declspec(dllimport)
+#endif
+#else
+#define VELOREXCHANGE_EXPORT __attribute__((visibility("default")))
+#endif
