@@ -29,6 +29,10 @@ public:
     /// All the bytes, NUL included.
     QString Decode(const char* data, std::size_t size) const;
 
+    /// True if a text whose first and last byte behind ASCII white space are ASCII themselves needs no
+    /// `Trim`.
+    bool TrimsPlainly() const { return kind != EKind::Other; }
+
     /// Narrows the span to what decodes to `Decode(span).trimmed()`. False if no part of the bytes
     /// does so for certain; the span is untouched then and the caller takes `Recode`.
     bool Trim(const char*& begin, const char*& end) const;

@@ -1,0 +1,166 @@
+// SPDX-License-Identifier: MIT
+#include "VelorExchange/dxf/read/TagReader_p.h"
+
+#include "VelorExchange/foundation/NumberParser_p.h"
+
+#include <QTextCodec>
+
+#include <algorithm>
+
+namespace VelorExchange::dxf {
+
+namespace {
+
+constexpr int kVersionOfIbm866 = 1006;
+constexpr int kFirstVersionOfUtf8 = 1019;
+
+char Lower(char c)
+{
+    return c >= 'A' && c <= 'Z' ? static_cast<char>(c + ('a' - 'A')) : c;
+}
+
+// The codec that a version has of its own, or null for the local one.
+QTextCodec* CodecOf(int version)
+{
+    if (version == kVersionOfIbm866) {
+        return QTextCodec::codecForName("IBM866"); // null where Qt lacks it
+    }
+    return version < kFirstVersionOfUtf8 ? nullptr : QTextCodec::codecForName("UTF-8");
+}
+
+} // namespace
+
+bool detail::IsAscii(std::string_view bytes)
+{
+    return std::all_of(bytes.begin(), bytes.end(),
+                       [](char c) { return static_cast<unsigned char>(c) < 0x80; });
+}
+
+CTagReader::CTagReader(QIODevice& device)
+    : lines(device), local(CTextDecoder::Local()), decoder(&local)
+{
+}
+
+void CTagReader::SetVersion(int number)
+{
+    if (version == number) {
+        return;
+    }
+    version = number;
+    QTextCodec* const codec = CodecOf(version);
+    fixed = codec != nullptr ? std::make_unique<CTextDecoder>(codec) : nullptr;
+    decoder = fixed ? fixed.get() : &local;
+    ++decoderRound;
+}
+
+// The host may change the codec of the process in a callback, so it is looked at for each object.
+void CTagReader::StartObject()
+{
+    lines.Keep();
+    recoded.clear();
+    if (!fixed && local.Codec() != QTextCodec::codecForLocale()) {
+        local = CTextDecoder::Local();
+        ++decoderRound;
+    }
+}
+
+CTextSpan CTagReader::TakeUncommonText(const CRawLine& line)
+{
+    const char* begin = line.begin;
+    const char* end = line.end;
+    if (!decoder->Trim(begin, end)) {
+        return Recode(line);
+    }
+    return {static_cast<quint64>(begin - lines.Base()), static_cast<quint16>(end - begin),
+            CTextSpan::Buffer};
+}
+
+CTextSpan CTagReader::Recode(const CRawLine& line)
+{
+    const QByteArray text =
+        decoder->Recode(line.begin, static_cast<std::size_t>(line.end - line.begin));
+    const CTextSpan span{static_cast<quint64>(recoded.size()), static_cast<quint16>(text.size()),
+                         CTextSpan::Recoded};
+    recoded += text;
+    return span;
+}
+
+// A code that is not a plain number at first sight can still be one with blanks of another kind.
+void CTagReader::TakeOtherCode(CDXFTag& tag)
+{
+    constexpr std::size_t kMostDigits = 4;
+    tag.codeText = TakeText();
+    const std::string_view text = Bytes(tag.codeText);
+    if (text.empty()) {
+        tag.code = CDXFTag::kNoCode;
+        return;
+    }
+    const bool isNumber = text.size() <= kMostDigits && (text.size() == 1 || text[0] != '0')
+        && std::all_of(text.begin(), text.end(), [](char c) { return c >= '0' && c <= '9'; });
+    if (!isNumber || !ParsePlainInt(text.data(), text.size(), tag.code)) {
+        tag.code = CDXFTag::kOtherCode;
+    }
+}
+
+QString CTagReader::Text(const CTextSpan& span) const
+{
+    return Text(span, Bytes(span));
+}
+
+QString CTagReader::Text(const CTextSpan& span, std::string_view part) const
+{
+    if (span.source == CTextSpan::Recoded) {
+        return CTextDecoder::DecodeRecoded(part.data(), part.size());
+    }
+    return decoder->Decode(part.data(), part.size());
+}
+
+double CTagReader::ToDouble(const CTextSpan& span) const
+{
+    const std::string_view bytes = Bytes(span);
+    double value = 0.0;
+    return ParsePlainDouble(bytes.data(), bytes.size(), value) ? value : Text(span).toDouble();
+}
+
+int CTagReader::ToInt(const CTextSpan& span) const
+{
+    const std::string_view bytes = Bytes(span);
+    int value = 0;
+    return ParsePlainInt(bytes.data(), bytes.size(), value) ? value : Text(span).toInt();
+}
+
+bool CTagReader::Is(const CDXFTag& tag, int code, std::string_view name) const
+{
+    return tag.code == code && SameText(tag.value, name);
+}
+
+// Letters beyond ASCII can be equal to ASCII ones without regard to case (U+017F and s), so they are
+// left to Qt.
+bool CTagReader::SameText(const CTextSpan& span, std::string_view name) const
+{
+    const std::string_view bytes = Bytes(span);
+    if (!detail::IsAscii(bytes)) {
+        const QLatin1String other(name.data(), static_cast<int>(name.size()));
+        return Text(span).compare(other, Qt::CaseInsensitive) == 0;
+    }
+    return bytes.size() == name.size()
+        && std::equal(bytes.begin(), bytes.end(), name.begin(),
+                      [](char a, char b) { return Lower(a) == Lower(b); });
+}
+
+bool CTagReader::CodeContains(const CDXFTag& tag, int code) const
+{
+    if (tag.code == CDXFTag::kOtherCode) {
+        const char digits[] = {static_cast<char>('0' + code / 10),
+                               static_cast<char>('0' + code % 10)};
+        return Bytes(tag.codeText).find(std::string_view(digits, 2)) != std::string_view::npos;
+    }
+    for (int rest = tag.code; rest >= 10; rest /= 10) {
+        if (rest % 100 == code) {
+            return true;
+        }
+    }
+    return false;
+}
+
+} // namespace VelorExchange::dxf

@@ -1,0 +1,164 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "VelorExchange/dxf/read/LineReader_p.h"
+#include "VelorExchange/dxf/read/Tag_p.h"
+#include "VelorExchange/foundation/LocalText_p.h"
+
+#include <QByteArray>
+#include <QString>
+
+#include <memory>
+#include <string_view>
+
+namespace VelorExchange::dxf {
+
+/// Pairs lines to groups, and turns their bytes into text and numbers when asked.
+///
+/// Memory: the groups since the last `StartObject`.
+class CTagReader final
+{
+public:
+    explicit CTagReader(QIODevice& device);
+
+    /// Decides how text is decoded from the next line on: IBM866 for 1006, UTF-8 from 1019 on, and the
+    /// local codec otherwise.
+    void SetVersion(int version);
+
+    bool AtEnd() { return lines.AtEnd(); }
+    qint64 Position() const { return lines.Position(); }
+
+    /// Lets go of all texts read so far; those of the tags that follow stay until the next call.
+    void StartObject();
+
+    /// The next group. Behind the end, one with an empty code and an empty value.
+    CDXFTag ReadTag()
+    {
+        lines.Prepare();
+        CDXFTag tag;
+        if (!TakePlainCode(tag.code)) {
+            TakeOtherCode(tag);
+        }
+        tag.value = TakeText();
+        return tag;
+    }
+
+    /// `StartObject` and `ReadTag`, for the loops that look at one group at a time.
+    CDXFTag ReadLoneTag()
+    {
+        StartObject();
+        return ReadTag();
+    }
+
+    /// Another number whenever texts start to be decoded in another way.
+    unsigned DecoderRound() const { return decoderRound; }
+
+    /// The bytes of a text; valid until the next tag is read.
+    std::string_view Bytes(const CTextSpan& span) const
+    {
+        switch (span.source) {
+        case CTextSpan::Buffer:
+            return {lines.Base() + span.offset, span.size};
+        case CTextSpan::Recoded:
+            return {recoded.constData() + span.offset, span.size};
+        default:
+            return "0";
+        }
+    }
+
+    /// The text itself.
+    QString Text(const CTextSpan& span) const;
+
+    /// The text of a part of `span`, as `Bytes` gave it.
+    QString Text(const CTextSpan& span, std::string_view part) const;
+
+    /// What `QString::toDouble` gives for the text, 0.0 if it does not convert.
+    double ToDouble(const CTextSpan& span) const;
+
+    /// What `QString::toInt` gives for the text, 0 if it does not convert.
+    int ToInt(const CTextSpan& span) const;
+
+    /// True if the tag is (`code`, `name`), the name compared without regard to case.
+    bool Is(const CDXFTag& tag, int code, std::string_view name) const;
+
+    /// True if the text of the tag's code contains that of `code`, which has two digits.
+    bool CodeContains(const CDXFTag& tag, int code) const;
+
+private:
+    bool TakePlainCode(int& code);
+    void TakeOtherCode(CDXFTag& tag);
+    CTextSpan TakeText();
+    CTextSpan TakeUncommonText(const CRawLine& line);
+    CTextSpan Recode(const CRawLine& line);
+    bool SameText(const CTextSpan& span, std::string_view name) const;
+
+    CLineReader lines;
+    int version = 0;
+    CTextDecoder local;
+    std::unique_ptr<CTextDecoder> fixed; // for the versions that do not use the local codec
+    const CTextDecoder* decoder = nullptr;
+    unsigned decoderRound = 0;
+    QByteArray recoded;
+};
+
+namespace detail {
+
+/// True if no byte is above 127.
+bool IsAscii(std::string_view bytes);
+
+inline bool IsBlank(char c)
+{
+    return c == ' ' || static_cast<unsigned char>(c - '\t') < 5;
+}
+
+} // namespace detail
+
+/// Takes a line that is blanks, a number of up to four digits in its shortest spelling, and its end:
+/// what codes look like in all but a few files. False, and nothing taken, for any other line.
+inline bool CTagReader::TakePlainCode(int& code)
+{
+    constexpr std::ptrdiff_t kMostBytes = 16; // far from where a line is cut
+    const char* const begin = lines.Cursor();
+    const char* p = begin;
+    const char* const limit = begin + kMostBytes;
+    while (*p == ' ' && p != limit) {
+        ++p;
+    }
+    const char* const first = p;
+    unsigned value = 0;
+    for (unsigned digit = 0; p != limit && (digit = static_cast<unsigned char>(*p - '0')) < 10; ++p)
+    {
+        value = value * 10 + digit;
+    }
+    const std::ptrdiff_t digits = p - first;
+    if (*p == '\r') {
+        ++p;
+    }
+    if (*p != '\n' || digits < 1 || digits > 4 || (digits > 1 && *first == '0')) {
+        return false;
+    }
+    code = static_cast<int>(value);
+    lines.TakeTo(p + 1);
+    return true;
+}
+
+inline CTextSpan CTagReader::TakeText()
+{
+    const CRawLine line = lines.NextLine();
+    const char* begin = line.begin;
+    const char* end = line.end;
+    while (begin != end && detail::IsBlank(end[-1])) {
+        --end;
+    }
+    while (begin != end && detail::IsBlank(*begin)) {
+        ++begin;
+    }
+    // Beyond ASCII there are other blanks, and bytes can lean on their neighbours.
+    if (!decoder->TrimsPlainly() || (begin != end && ((*begin | end[-1]) & 0x80) != 0)) {
+        return TakeUncommonText(line);
+    }
+    return {static_cast<quint64>(begin - lines.Base()), static_cast<quint16>(end - begin),
+            CTextSpan::Buffer};
+}
+
+} // namespace VelorExchange::dxf
