@@ -40,7 +40,7 @@ const char* CLineReader::NextLineFeed()
     return lineFeed;
 }
 
-CRawLine CLineReader::NextLongLine()
+CRawLine CLineReader::NextLine()
 {
     const char* const begin = cursor;
     const char* end = begin + std::min(fill - begin, kLongestLine);

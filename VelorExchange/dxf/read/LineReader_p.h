@@ -62,44 +62,22 @@ public:
     }
 
     /// The next line; an empty one at the end. `Prepare` comes first, once for two lines.
-    CRawLine NextLine()
-    {
-#if defined(__SSE2__)
-        // Nearly all lines are short. Bytes behind `fill` are zero, so an LF found is a real one.
-        const __m128i bytes = _mm_loadu_si128(reinterpret_cast<const __m128i*>(cursor)); // 16 bytes
-        const auto lfs =
-            static_cast<unsigned>(_mm_movemask_epi8(_mm_cmpeq_epi8(bytes, _mm_set1_epi8('\n'))));
-        const auto crs =
-            static_cast<unsigned>(_mm_movemask_epi8(_mm_cmpeq_epi8(bytes, _mm_set1_epi8('\r'))));
-        if (lfs != 0) {
-            const unsigned throughLf = lfs ^ (lfs - 1U);
-            if ((crs & (throughLf >> 2U)) == 0) {
-                const CRawLine line{cursor, cursor + __builtin_ctz(lfs) + 1};
-                cursor = line.end;
-                return line;
-            }
-        }
-#endif
-        return NextLongLine();
-    }
+    CRawLine NextLine();
+
+    /// Takes the next line if it is short and ends in LF or CR LF, which nearly all lines do; `line` is
+    /// without them then. False, and nothing taken, for any other line. `Prepare` comes first.
+    bool NextShortLine(CRawLine& line);
 
     /// The bytes to be read, for quick looks ahead: at least 32 more than there are stand in memory,
     /// zero behind the end.
-    const char* Cursor() const
-    {
-        return cursor;
-    }
+    const char* Cursor() const { return cursor; }
 
     /// Takes the bytes up to `end`, which the caller has found to be a line of its own.
-    void TakeTo(const char* end)
-    {
-        cursor = end;
-    }
+    void TakeTo(const char* end) { cursor = end; }
 
 private:
     static constexpr std::ptrdiff_t kReadAhead = 2 * kLongestLine;
 
-    CRawLine NextLongLine();
     const char* NextLineFeed();
     void Refill();
     void MakeRoom();
@@ -115,5 +93,41 @@ private:
     qint64 bufferPosition = 0; // of the start of the buffer in the device
     bool ended = false; // the device has nothing more
 };
+
+#if defined(__SSE2__)
+inline bool CLineReader::NextShortLine(CRawLine& line)
+{
+    // Bytes behind `fill` are zero, so an LF found is a real one.
+    const auto maskOf = [this](int at, char c) {
+        const auto* block = reinterpret_cast<const __m128i*>(cursor + at); // 16 bytes, unaligned
+        return static_cast<unsigned>(
+            _mm_movemask_epi8(_mm_cmpeq_epi8(_mm_loadu_si128(block), _mm_set1_epi8(c))));
+    };
+    unsigned lfs = maskOf(0, '\n');
+    unsigned crs = maskOf(0, '\r');
+    if (lfs == 0) {
+        lfs = maskOf(16, '\n') << 16U;
+        crs |= maskOf(16, '\r') << 16U;
+        if (lfs == 0) {
+            return false;
+        }
+    }
+    const unsigned beforeLf = (lfs - 1U) & ~lfs;
+    crs &= beforeLf;
+    if ((crs & (beforeLf >> 1U)) != 0) {
+        return false;
+    }
+    const int length = __builtin_ctz(lfs);
+    line.begin = cursor;
+    line.end = cursor + length - (crs != 0 ? 1 : 0);
+    cursor += length + 1;
+    return true;
+}
+#else
+inline bool CLineReader::NextShortLine(CRawLine&)
+{
+    return false;
+}
+#endif
 
 } // namespace VelorExchange::dxf

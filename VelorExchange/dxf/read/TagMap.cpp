@@ -53,7 +53,7 @@ CDXFTag CDXFTagMap::ReadObject(CChain chain)
     input.StartObject();
     CDXFTag tag;
     while (!input.AtEnd()) {
-        tag = input.ReadTag();
+        tag = input.ReadTagAhead();
         while (tag.code == *chain.begin()) {
             tag = ReadChain(tag, chain);
         }
@@ -65,21 +65,31 @@ CDXFTag CDXFTagMap::ReadObject(CChain chain)
     return tag;
 }
 
-// Returns the tag behind the repetition: read but not stored.
-CDXFTag CDXFTagMap::ReadChain(const CDXFTag& first, CChain chain)
+// Zeros that follow each other stand as one value with a count.
+void CDXFTagMap::StoreZero(int code)
 {
-    Store(first);
-    CDXFTag tag = first;
+    CSlot& slot = slots[static_cast<std::size_t>(code)];
+    if (slot.round == round && values[slot.last].span.source == CTextSpan::Zero) {
+        ++values[slot.last].count;
+    } else {
+        Store(code, kZeroSpan, false);
+    }
+}
+
+// `tag` starts a repetition. Returns the one behind it: read but not stored.
+CDXFTag CDXFTagMap::ReadChain(CDXFTag tag, CChain chain)
+{
+    Store(tag);
     bool consumed = true;
     for (auto code = chain.begin() + 1; code != chain.end(); ++code) {
         if (consumed) {
             tag = input.ReadTag();
         }
-        consumed = tag.code == *code || input.CodeContains(tag, *code);
+        consumed = input.CodeContains(tag, *code);
         if (consumed) {
             Store(tag);
         } else {
-            Store(*code, kZeroSpan, false);
+            StoreZero(*code);
         }
     }
     return consumed ? input.ReadTag() : tag;
@@ -89,7 +99,7 @@ CDXFTag CDXFTagMap::ReadUntil(CCodes stopCodes)
 {
     CDXFTag tag;
     while (!input.AtEnd()) {
-        tag = input.ReadTag();
+        tag = input.ReadTagAhead();
         if (IsIn(tag.code, stopCodes)) {
             return tag;
         }
@@ -108,23 +118,36 @@ CDXFTag CDXFTagMap::ReadWhile(CCodes allowedCodes)
     return tag;
 }
 
-bool CDXFTagMap::Single(int code, CTextSpan& span) const
+// Null for none, and for several.
+const CDXFTagMap::CStored* CDXFTagMap::OnlyValueOf(int code) const
 {
     const CSlot* const slot = SlotOf(code);
-    if (slot == nullptr || slot->first != slot->last) {
-        return false;
+    if (slot == nullptr || slot->first != slot->last || values[slot->first].count != 1) {
+        return nullptr;
     }
-    span = SpanAt(slot->first);
-    return true;
+    return &values[slot->first];
+}
+
+bool CDXFTagMap::Single(int code, CTextSpan& span) const
+{
+    const CStored* const value = OnlyValueOf(code);
+    if (value != nullptr) {
+        span = value->span;
+    }
+    return value != nullptr;
 }
 
 QString CDXFTagMap::Joined(const CSlot& slot) const
 {
-    QString text = input.Text(SpanAt(slot.first));
-    for (quint32 place = slot.first; place != slot.last;) {
-        place = values[place].next;
-        text += QLatin1Char(kJoint);
-        text += input.Text(SpanAt(place));
+    QString text;
+    for (quint32 place = slot.first; place != kNone; place = values[place].next) {
+        const QString value = input.Text(values[place].span);
+        for (quint32 i = 0; i < values[place].count; ++i) {
+            if (place != slot.first || i > 0) {
+                text += QLatin1Char(kJoint);
+            }
+            text += value;
+        }
     }
     return text;
 }
@@ -135,22 +158,23 @@ QString CDXFTagMap::Value(int code, const QString& absent) const
     return slot != nullptr ? Joined(*slot) : absent;
 }
 
+// Several values, joined, never convert.
 int CDXFTagMap::Int(int code, int absent) const
 {
-    const CSlot* const slot = SlotOf(code);
-    if (slot == nullptr) {
-        return absent;
+    const CStored* const value = OnlyValueOf(code);
+    if (value != nullptr) {
+        return input.ToInt(value->span);
     }
-    return slot->first == slot->last ? input.ToInt(SpanAt(slot->first)) : 0;
+    return Has(code) ? 0 : absent;
 }
 
 double CDXFTagMap::Double(int code, double absent) const
 {
-    const CSlot* const slot = SlotOf(code);
-    if (slot == nullptr) {
-        return absent;
+    const CStored* const value = OnlyValueOf(code);
+    if (value != nullptr) {
+        return input.ToDouble(value->span);
     }
-    return slot->first == slot->last ? input.ToDouble(SpanAt(slot->first)) : 0.0;
+    return Has(code) ? 0.0 : absent;
 }
 
 QStringList CDXFTagMap::Split(int code) const
@@ -160,9 +184,11 @@ QStringList CDXFTagMap::Split(int code) const
     for (quint32 place = slot != nullptr ? slot->first : kNone; place != kNone;
          place = values[place].next)
     {
-        const CTextSpan span = SpanAt(place);
-        ForEachPart(input.Bytes(span),
-                    [&](std::string_view part) { items.append(input.Text(span, part)); });
+        const CStored& value = values[place];
+        for (quint32 i = 0; i < value.count; ++i) {
+            ForEachPart(input.Bytes(value.span),
+                        [&](std::string_view part) { items.append(input.Text(value.span, part)); });
+        }
     }
     return items;
 }
@@ -174,18 +200,19 @@ void CDXFTagMap::SplitDoubles(int code, std::vector<double>& items) const
     for (quint32 place = slot != nullptr ? slot->first : kNone; place != kNone;
          place = values[place].next)
     {
-        const CTextSpan span = SpanAt(place);
-        double value = 0.0;
-        const std::string_view bytes = input.Bytes(span);
-        if (ParsePlainDouble(bytes.data(), bytes.size(), value)) {
-            items.push_back(value);
-            continue;
+        const CStored& value = values[place];
+        double number = 0.0;
+        if (value.span.source == CTextSpan::Zero) {
+            items.insert(items.end(), value.count, 0.0);
+        } else if (input.ToPlainDouble(value.span, number)) {
+            items.push_back(number);
+        } else {
+            ForEachPart(input.Bytes(value.span), [&](std::string_view part) {
+                items.push_back(ParsePlainDouble(part.data(), part.size(), number)
+                                    ? number
+                                    : input.Text(value.span, part).toDouble());
+            });
         }
-        ForEachPart(bytes, [&](std::string_view part) {
-            items.push_back(ParsePlainDouble(part.data(), part.size(), value)
-                                ? value
-                                : input.Text(span, part).toDouble());
-        });
     }
 }
 

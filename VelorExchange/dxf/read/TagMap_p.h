@@ -22,7 +22,7 @@ namespace VelorExchange::dxf {
 /// start another object before that. A map is made once and used for many objects. Codes above 1071,
 /// and texts that are no code, are never asked for and so not kept.
 ///
-/// Memory: 16 bytes for each group of the object.
+/// Memory: 16 bytes for each group of the object; a run of zeros that a chain fills in takes as much.
 class CDXFTagMap final
 {
 public:
@@ -85,10 +85,9 @@ private:
 
     struct CStored
     {
-        quint64 offset : 48;
-        quint64 size : 16;
-        quint32 next;
-        CTextSpan::ESource source;
+        CTextSpan span;
+        quint32 next; // place of the next value of the same code
+        quint32 count; // how many times the value stands here; above 1 for filled in zeros alone
     };
 
     struct CSlot
@@ -99,9 +98,10 @@ private:
     };
 
     void Store(int code, const CTextSpan& span, bool overwrite);
-    CDXFTag ReadChain(const CDXFTag& first, CChain chain);
+    void StoreZero(int code);
+    CDXFTag ReadChain(CDXFTag tag, CChain chain);
     const CSlot* SlotOf(int code) const;
-    CTextSpan SpanAt(quint32 place) const;
+    const CStored* OnlyValueOf(int code) const;
     QString Joined(const CSlot& slot) const;
 
     CTagReader& input;
@@ -116,15 +116,10 @@ inline void CDXFTagMap::Store(int code, const CTextSpan& span, bool overwrite)
         return;
     }
     const auto place = static_cast<quint32>(values.size());
-    CStored value;
-    value.offset = span.offset & 0xFFFFFFFFFFFFU; // 48 bits
-    value.size = span.size;
-    value.next = kNone;
-    value.source = span.source;
-    values.push_back(value);
+    values.push_back({span, kNone, 1});
     CSlot& slot = slots[static_cast<std::size_t>(code)];
     // Only the sole value of a code can be empty and in the way.
-    if (slot.round != round || overwrite || values[slot.first].size == 0) {
+    if (slot.round != round || overwrite || values[slot.first].span.size == 0) {
         slot = {round, place, place};
     } else {
         values[slot.last].next = place;
@@ -136,12 +131,6 @@ inline const CDXFTagMap::CSlot* CDXFTagMap::SlotOf(int code) const
 {
     const CSlot& slot = slots[static_cast<std::size_t>(code)];
     return slot.round == round ? &slot : nullptr;
-}
-
-inline CTextSpan CDXFTagMap::SpanAt(quint32 place) const
-{
-    const CStored& value = values[place];
-    return {value.offset, static_cast<quint16>(value.size), value.source};
 }
 
 } // namespace VelorExchange::dxf

@@ -64,6 +64,7 @@ void CTagReader::StartObject()
     }
 }
 
+// Beyond ASCII there are other blanks, and bytes can lean on their neighbours.
 CTextSpan CTagReader::TakeUncommonText(const CRawLine& line)
 {
     const char* begin = line.begin;
@@ -71,35 +72,38 @@ CTextSpan CTagReader::TakeUncommonText(const CRawLine& line)
     if (!decoder->Trim(begin, end)) {
         return Recode(line);
     }
-    return {static_cast<quint64>(begin - lines.Base()), static_cast<quint16>(end - begin),
-            CTextSpan::Buffer};
+    return MakeSpan(begin - lines.Base(), CTextSpan::Buffer, end - begin);
+}
+
+CTextSpan CTagReader::TakeAnyText()
+{
+    return TakeUncommonText(lines.NextLine());
 }
 
 CTextSpan CTagReader::Recode(const CRawLine& line)
 {
     const QByteArray text =
         decoder->Recode(line.begin, static_cast<std::size_t>(line.end - line.begin));
-    const CTextSpan span{static_cast<quint64>(recoded.size()), static_cast<quint16>(text.size()),
-                         CTextSpan::Recoded};
+    const int offset = recoded.size();
     recoded += text;
-    return span;
+    return MakeSpan(offset, CTextSpan::Recoded, text.size());
 }
 
 // A code that is not a plain number at first sight can still be one with blanks of another kind.
-void CTagReader::TakeOtherCode(CDXFTag& tag)
+int CTagReader::TakeOtherCode()
 {
     constexpr std::size_t kMostDigits = 4;
-    tag.codeText = TakeText();
-    const std::string_view text = Bytes(tag.codeText);
+    const std::string_view text = Bytes(TakeAnyText());
     if (text.empty()) {
-        tag.code = CDXFTag::kNoCode;
-        return;
+        return CDXFTag::kNoCode;
     }
     const bool isNumber = text.size() <= kMostDigits && (text.size() == 1 || text[0] != '0')
         && std::all_of(text.begin(), text.end(), [](char c) { return c >= '0' && c <= '9'; });
-    if (!isNumber || !ParsePlainInt(text.data(), text.size(), tag.code)) {
-        tag.code = CDXFTag::kOtherCode;
+    int code = CDXFTag::kOtherCode;
+    if (!isNumber || !ParsePlainInt(text.data(), text.size(), code)) {
+        otherCode = QByteArray(text.data(), static_cast<int>(text.size()));
     }
+    return code;
 }
 
 QString CTagReader::Text(const CTextSpan& span) const
@@ -115,11 +119,19 @@ QString CTagReader::Text(const CTextSpan& span, std::string_view part) const
     return decoder->Decode(part.data(), part.size());
 }
 
-double CTagReader::ToDouble(const CTextSpan& span) const
+bool CTagReader::ToPlainDouble(const CTextSpan& span, double& value) const
 {
     const std::string_view bytes = Bytes(span);
+    if (span.source == CTextSpan::Recoded) {
+        return ParsePlainDouble(bytes.data(), bytes.size(), value);
+    }
+    return ParsePaddedDouble(bytes.data(), bytes.size(), value);
+}
+
+double CTagReader::ToDouble(const CTextSpan& span) const
+{
     double value = 0.0;
-    return ParsePlainDouble(bytes.data(), bytes.size(), value) ? value : Text(span).toDouble();
+    return ToPlainDouble(span, value) ? value : Text(span).toDouble();
 }
 
 int CTagReader::ToInt(const CTextSpan& span) const
@@ -148,19 +160,11 @@ bool CTagReader::SameText(const CTextSpan& span, std::string_view name) const
                       [](char a, char b) { return Lower(a) == Lower(b); });
 }
 
-bool CTagReader::CodeContains(const CDXFTag& tag, int code) const
+bool CTagReader::LongCodeContains(int longCode, int code) const
 {
-    if (tag.code == CDXFTag::kOtherCode) {
-        const char digits[] = {static_cast<char>('0' + code / 10),
-                               static_cast<char>('0' + code % 10)};
-        return Bytes(tag.codeText).find(std::string_view(digits, 2)) != std::string_view::npos;
-    }
-    for (int rest = tag.code; rest >= 10; rest /= 10) {
-        if (rest % 100 == code) {
-            return true;
-        }
-    }
-    return false;
+    const QByteArray text =
+        longCode == CDXFTag::kOtherCode ? otherCode : QByteArray::number(longCode);
+    return text.contains(QByteArray::number(code));
 }
 
 } // namespace VelorExchange::dxf

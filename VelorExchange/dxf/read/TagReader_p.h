@@ -35,9 +35,15 @@ public:
     CDXFTag ReadTag()
     {
         lines.Prepare();
+        return ReadTagAhead();
+    }
+
+    /// `ReadTag` right behind an `AtEnd` that has been false.
+    CDXFTag ReadTagAhead()
+    {
         CDXFTag tag;
         if (!TakePlainCode(tag.code)) {
-            TakeOtherCode(tag);
+            tag.code = TakeOtherCode();
         }
         tag.value = TakeText();
         return tag;
@@ -62,7 +68,7 @@ public:
         case CTextSpan::Recoded:
             return {recoded.constData() + span.offset, span.size};
         default:
-            return "0";
+            return {kZero, 1};
         }
     }
 
@@ -75,22 +81,36 @@ public:
     /// What `QString::toDouble` gives for the text, 0.0 if it does not convert.
     double ToDouble(const CTextSpan& span) const;
 
+    /// The same, where the text is a plain number; false for any other.
+    bool ToPlainDouble(const CTextSpan& span, double& value) const;
+
     /// What `QString::toInt` gives for the text, 0 if it does not convert.
     int ToInt(const CTextSpan& span) const;
 
     /// True if the tag is (`code`, `name`), the name compared without regard to case.
     bool Is(const CDXFTag& tag, int code, std::string_view name) const;
 
-    /// True if the text of the tag's code contains that of `code`, which has two digits.
-    bool CodeContains(const CDXFTag& tag, int code) const;
+    /// True if the text of the tag's code contains that of `code`, which has two digits. The tag is the
+    /// last one read.
+    bool CodeContains(const CDXFTag& tag, int code) const
+    {
+        // Codes of two digits contain but themselves, and an empty one nothing.
+        return static_cast<unsigned>(tag.code + 1) <= 100U ? tag.code == code
+                                                           : LongCodeContains(tag.code, code);
+    }
 
 private:
     bool TakePlainCode(int& code);
-    void TakeOtherCode(CDXFTag& tag);
+    int TakeOtherCode();
     CTextSpan TakeText();
     CTextSpan TakeUncommonText(const CRawLine& line);
+    CTextSpan TakeAnyText();
+    bool LongCodeContains(int longCode, int code) const;
     CTextSpan Recode(const CRawLine& line);
     bool SameText(const CTextSpan& span, std::string_view name) const;
+
+    // Bytes are looked at up to this many behind the end of a text.
+    static constexpr char kZero[32] = "0";
 
     CLineReader lines;
     int version = 0;
@@ -99,6 +119,7 @@ private:
     const CTextDecoder* decoder = nullptr;
     unsigned decoderRound = 0;
     QByteArray recoded;
+    QByteArray otherCode; // the text of the last code that was `kOtherCode`
 };
 
 namespace detail {
@@ -106,9 +127,10 @@ namespace detail {
 /// True if no byte is above 127.
 bool IsAscii(std::string_view bytes);
 
-inline bool IsBlank(char c)
+/// True for ASCII but blanks and control characters: what needs no trimming.
+inline bool IsGraphic(char c)
 {
-    return c == ' ' || static_cast<unsigned char>(c - '\t') < 5;
+    return c > ' ' && c < '\x7F';
 }
 
 } // namespace detail
@@ -144,21 +166,13 @@ inline bool CTagReader::TakePlainCode(int& code)
 
 inline CTextSpan CTagReader::TakeText()
 {
-    const CRawLine line = lines.NextLine();
-    const char* begin = line.begin;
-    const char* end = line.end;
-    while (begin != end && detail::IsBlank(end[-1])) {
-        --end;
+    CRawLine line;
+    if (lines.NextShortLine(line) && line.begin != line.end && detail::IsGraphic(*line.begin)
+        && detail::IsGraphic(line.end[-1]) && decoder->TrimsPlainly())
+    {
+        return MakeSpan(line.begin - lines.Base(), CTextSpan::Buffer, line.end - line.begin);
     }
-    while (begin != end && detail::IsBlank(*begin)) {
-        ++begin;
-    }
-    // Beyond ASCII there are other blanks, and bytes can lean on their neighbours.
-    if (!decoder->TrimsPlainly() || (begin != end && ((*begin | end[-1]) & 0x80) != 0)) {
-        return TakeUncommonText(line);
-    }
-    return {static_cast<quint64>(begin - lines.Base()), static_cast<quint16>(end - begin),
-            CTextSpan::Buffer};
+    return line.begin != nullptr ? TakeUncommonText(line) : TakeAnyText();
 }
 
 } // namespace VelorExchange::dxf

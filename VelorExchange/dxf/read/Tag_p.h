@@ -3,23 +3,33 @@
 
 #include <QtGlobal>
 
+#include <cstddef>
+
 namespace VelorExchange::dxf {
 
 /// A trimmed text of the object in hand that has not been decoded yet; `CTagReader` tells its bytes.
 struct CTextSpan
 {
-    enum ESource : quint8 {
+    enum ESource : quint64 {
         Buffer, ///< `offset` counts from the start of the object.
         Recoded, ///< `offset` counts in the reader's store of texts that had to be decoded at once.
         Zero ///< The text "0", which stands in no file.
     };
 
-    quint64 offset = 0;
-    quint16 size = 0; // bytes; a line has up to 999 and its UTF-8 up to three times as many
-    ESource source = Buffer;
+    quint64 offset : 46;
+    quint64 source : 2;
+    quint64 size : 16; // bytes; a line has up to 999, and its UTF-8 up to three times as many
 };
 
-constexpr CTextSpan kZeroSpan{0, 1, CTextSpan::Zero};
+constexpr CTextSpan MakeSpan(std::ptrdiff_t offset, CTextSpan::ESource source, std::ptrdiff_t size)
+{
+    constexpr quint64 kOffsetMask = 0x3FFFFFFFFFFFU;
+    constexpr quint64 kSizeMask = 0xFFFFU;
+    return {static_cast<quint64>(offset) & kOffsetMask, source,
+            static_cast<quint64>(size) & kSizeMask};
+}
+
+constexpr CTextSpan kZeroSpan = MakeSpan(0, CTextSpan::Zero, 1);
 
 /// One group: a code and a value.
 ///
@@ -31,8 +41,7 @@ struct CDXFTag
     static constexpr int kOtherCode = -2; ///< The code is a text that no parser asks for.
 
     int code = kNoCode;
-    CTextSpan codeText; ///< Filled for `kOtherCode` alone.
-    CTextSpan value;
+    CTextSpan value{};
 };
 
 } // namespace VelorExchange::dxf
