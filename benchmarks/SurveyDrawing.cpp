@@ -103,7 +103,7 @@ private:
         switch (random() % 12) {
         case 0:
         case 1:
-            return Contour(20 + static_cast<int>(random() % 180));
+            return Contour(8 + static_cast<int>(random() % 40));
         case 2:
         case 3:
         case 4:

@@ -25,7 +25,7 @@ constexpr CTextSpan MakeSpan(std::ptrdiff_t offset, CTextSpan::ESource source, s
 {
     constexpr quint64 kOffsetMask = 0x3FFFFFFFFFFFU;
     constexpr quint64 kSizeMask = 0xFFFFU;
-    return {static_cast<quint64>(offset) & kOffsetMask, source,
+    return {static_cast<quint64>(offset) & kOffsetMask, static_cast<quint64>(source) & 3U,
             static_cast<quint64>(size) & kSizeMask};
 }
 
