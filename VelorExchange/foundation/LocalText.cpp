@@ -87,6 +87,7 @@ CTextDecoder::CTextDecoder(QTextCodec* textCodec) : codec(textCodec)
     } else {
         asciiTransparent = IsAsciiTransparent();
     }
+    FillPlainBytes();
 }
 
 CTextDecoder CTextDecoder::Local()
@@ -107,6 +108,21 @@ bool CTextDecoder::FillTable()
         space[byte] = text.at(0).isSpace();
     }
     return true;
+}
+
+// In UTF-8 a continuation byte may end a white space, and some lead bytes may start one or the byte
+// order mark. In codecs of which nothing is known no byte is plain.
+void CTextDecoder::FillPlainBytes()
+{
+    for (std::size_t byte = 0; byte < plainStart.size(); ++byte) {
+        const bool graphic = byte > ' ' && byte < 0x7F;
+        const bool notSpace = kind == EKind::Table && !space[byte];
+        const bool cyrillicLead = byte >= 0xC3 && byte <= 0xE0;
+        const bool harmlessTail = byte >= 0x8B && byte <= 0xBF && byte != 0x9F && byte != 0xA0
+            && byte != 0xA8 && byte != 0xA9 && byte != 0xAF;
+        plainStart[byte] = notSpace || (kind == EKind::Utf8 && (graphic || cyrillicLead));
+        plainEnd[byte] = notSpace || (kind == EKind::Utf8 && (graphic || harmlessTail));
+    }
 }
 
 bool CTextDecoder::IsAsciiTransparent() const

@@ -29,9 +29,11 @@ public:
     /// All the bytes, NUL included.
     QString Decode(const char* data, std::size_t size) const;
 
-    /// True if a text whose first and last byte behind ASCII white space are ASCII themselves needs no
-    /// `Trim`.
-    bool TrimsPlainly() const { return kind != EKind::Other; }
+    /// True if no text that starts with this byte has anything to trim there.
+    bool StartsPlainly(char c) const { return plainStart[static_cast<unsigned char>(c)]; }
+
+    /// True if no text that ends with this byte has anything to trim there.
+    bool EndsPlainly(char c) const { return plainEnd[static_cast<unsigned char>(c)]; }
 
     /// Narrows the span to what decodes to `Decode(span).trimmed()`. False if no part of the bytes
     /// does so for certain; the span is untouched then and the caller takes `Recode`.
@@ -47,6 +49,7 @@ private:
     enum class EKind { Table, Utf8, Other };
 
     bool FillTable();
+    void FillPlainBytes();
     bool IsAsciiTransparent() const;
     bool TrimByTable(const char*& begin, const char*& end) const;
     bool TrimUtf8(const char*& begin, const char*& end) const;
@@ -57,6 +60,8 @@ private:
     bool asciiTransparent = false;
     std::array<char16_t, 256> table{}; // what each byte means, for EKind::Table
     std::array<bool, 256> space{}; // whether that is white space
+    std::array<bool, 256> plainStart{}; // bytes that need no closer look at the ends of a text
+    std::array<bool, 256> plainEnd{};
 };
 
 } // namespace VelorExchange

@@ -17,8 +17,7 @@ CDXFTag CDXFReaderImpl::ReadArc()
         return next;
     }
     CArcDXF arc;
-    FillHead(arc);
-    arc.lineStyle.name = LineType();
+    FillStyledHead(arc);
     arc.center = Coordinates().ToWorld(tags.Point3D(10, 20, 30));
     arc.radius = tags.Double(40);
     arc.startAngle = tags.Double(50);

@@ -113,13 +113,15 @@ private:
     bool IsPaperSpace() const { return tags.Int(67) == 1; }
     CObjectCoordinates Coordinates() const { return CObjectCoordinates(tags.Extrusion()); }
     CPoint2D PlanPoint(const CObjectCoordinates& coordinates, int xCode, int yCode) const;
-    QString Layer() { return Name(8, QString()); }
+    void FillName(CNameCache::CName& name, const QString& text) const;
     const CNameCache::CName* KnownName(int code);
     QString Name(int code, const QString& absent);
-    const CLayerDXF* LayerOfEntity();
-    quint32 Color();
-    QString LineType();
-    void FillHead(CEntityDXF& entity);
+    const CNameCache::CName& EntityLayer();
+    quint32 Color(const CNameCache::CName& layer) const;
+    QString LineType(const CNameCache::CName& layer);
+    void FillLayerAndColor(QString& layer, quint32& color);
+    void FillHead(CEntityDXF& entity); // all but the line type
+    void FillStyledHead(CEntityDXF& entity);
 
     /// To the host, or into the block in hand.
     template <class Record>
@@ -141,6 +143,7 @@ private:
     QMultiMap<QString, CImageDXF> images; // by group 340
     CNameCache names;
     unsigned namesDecoder = 0; // what `names` was decoded with
+    CNameCache::CName uncommonLayer; // of the object in hand, where `names` cannot hold it
     std::unique_ptr<CHatchBoundary> hatchBoundary; // made for the first hatch
     std::vector<double> lists[9]; // scratch for the lists of coordinates
 };

@@ -12,8 +12,7 @@ CDXFTag CDXFReaderImpl::ReadEllipse()
     }
     const CObjectCoordinates coordinates = Coordinates();
     CEllipseDXF ellipse;
-    FillHead(ellipse);
-    ellipse.lineStyle.name = LineType();
+    FillStyledHead(ellipse);
     ellipse.center = coordinates.ToWorld(tags.Point3D(10, 20, 30));
     ellipse.majorAxis = coordinates.ToWorld(tags.Point3D(11, 21, 31));
     ellipse.ratio = tags.Double(40);

@@ -6,12 +6,19 @@
 
 #include <QLatin1String>
 
+#include <algorithm>
+
 namespace VelorExchange::dxf {
 
 namespace {
 
 constexpr int kAbsentColor = -2;
 constexpr char kByLayer[] = "BYLAYER";
+
+bool IsCapitalOrDigit(char c)
+{
+    return (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9');
+}
 
 bool IsByLayer(const QString& lineType)
 {
@@ -61,22 +68,32 @@ bool CDXFReaderImpl::ReadEntityLoop(CDXFTag& tag)
     return false;
 }
 
+// Nearly all files write the names in capitals, so these are looked for first.
 CDXFReaderImpl::CParser CDXFReaderImpl::ParserOf(const CDXFTag& tag) const
 {
-    // Length and first letter rule out nearly all names; a name with letters beyond ASCII is compared
-    // with each.
     const std::string_view bytes = input.Bytes(tag.value);
-    const bool isAscii = detail::IsAscii(bytes);
-    constexpr unsigned char kLowerCase = 0x20;
     for (const CEntityName& entity : kEntityNames) {
-        const bool possible = !isAscii
-            || (bytes.size() == entity.name.size()
-                && ((bytes[0] ^ entity.name[0]) & ~kLowerCase) == 0);
-        if (possible && input.Is(tag, 0, entity.name)) {
+        if (bytes == entity.name) {
+            return entity.parser;
+        }
+    }
+    if (std::all_of(bytes.begin(), bytes.end(), IsCapitalOrDigit)) {
+        return nullptr;
+    }
+    for (const CEntityName& entity : kEntityNames) {
+        if (input.Is(tag, 0, entity.name)) {
             return entity.parser;
         }
     }
     return nullptr;
+}
+
+void CDXFReaderImpl::FillName(CNameCache::CName& name, const QString& text) const
+{
+    name.text = text;
+    name.layer = layers.Find(text);
+    const bool hasLineType = name.layer != nullptr && !IsByLayer(name.layer->lineType);
+    name.lineType = hasLineType ? name.layer->lineType : QStringLiteral("CONTINUOUS");
 }
 
 // A text that comes once and is short is decoded, and looked up among the layers, once for all objects
@@ -96,8 +113,7 @@ const CNameCache::CName* CDXFReaderImpl::KnownName(int code)
     bool known = false;
     CNameCache::CName& name = names.PlaceOf(input.Bytes(span), known);
     if (!known) {
-        name.text = input.Text(span);
-        name.layer = layers.Find(name.text);
+        FillName(name, input.Text(span));
     }
     return &name;
 }
@@ -108,10 +124,14 @@ QString CDXFReaderImpl::Name(int code, const QString& absent)
     return name != nullptr ? name->text : tags.Value(code, absent);
 }
 
-const CLayerDXF* CDXFReaderImpl::LayerOfEntity()
+const CNameCache::CName& CDXFReaderImpl::EntityLayer()
 {
     const CNameCache::CName* const name = KnownName(8);
-    return name != nullptr ? name->layer : layers.Find(tags.Value(8));
+    if (name != nullptr) {
+        return *name;
+    }
+    FillName(uncommonLayer, tags.Value(8));
+    return uncommonLayer;
 }
 
 CPoint2D CDXFReaderImpl::PlanPoint(const CObjectCoordinates& coordinates, int xCode,
@@ -122,44 +142,53 @@ CPoint2D CDXFReaderImpl::PlanPoint(const CObjectCoordinates& coordinates, int xC
 }
 
 // Group 420 is honoured only beside a group 62.
-quint32 CDXFReaderImpl::Color()
+quint32 CDXFReaderImpl::Color(const CNameCache::CName& layer) const
 {
     const int index = tags.Int(62, kAbsentColor);
     if (index == 0) {
         return currentBlock ? kByBlockColor : 0;
     }
     if (index != kAbsentColor) {
-        if (!tags.Value(420).isEmpty()) {
+        if (tags.Has(420) && !tags.Value(420).isEmpty()) {
             return Swapped(static_cast<quint32>(tags.Int(420)));
         }
         return static_cast<quint32>(NumColACAD2RGB(index));
     }
-    const CLayerDXF* const layer = LayerOfEntity();
-    const bool known = layer != nullptr && static_cast<qint32>(layer->color) != -1
-        && static_cast<qint32>(layer->color) != kAbsentColor;
-    return known ? layer->color : 0;
+    const bool known = layer.layer != nullptr && static_cast<qint32>(layer.layer->color) != -1
+        && static_cast<qint32>(layer.layer->color) != kAbsentColor;
+    return known ? layer.layer->color : 0;
 }
 
-QString CDXFReaderImpl::LineType()
+QString CDXFReaderImpl::LineType(const CNameCache::CName& layer)
 {
-    if (tags.Has(6)) {
-        const QString own = Name(6, QString());
-        if (!IsByLayer(own)) {
-            return own;
-        }
+    if (!tags.Has(6)) {
+        return layer.lineType;
     }
-    const CLayerDXF* const layer = LayerOfEntity();
-    if (layer != nullptr && !IsByLayer(layer->lineType)) {
-        return layer->lineType;
-    }
-    return QStringLiteral("CONTINUOUS");
+    const QString byLayer = layer.lineType; // the next name may take the place of this one
+    const QString own = Name(6, QString());
+    return IsByLayer(own) ? byLayer : own;
+}
+
+void CDXFReaderImpl::FillLayerAndColor(QString& layer, quint32& color)
+{
+    const CNameCache::CName& name = EntityLayer();
+    layer = name.text;
+    color = Color(name);
 }
 
 void CDXFReaderImpl::FillHead(CEntityDXF& entity)
 {
-    entity.layer = Layer();
-    entity.color = Color();
+    FillLayerAndColor(entity.layer, entity.color);
     entity.lineWeight = tags.Double(370);
+}
+
+void CDXFReaderImpl::FillStyledHead(CEntityDXF& entity)
+{
+    const CNameCache::CName& name = EntityLayer();
+    entity.layer = name.text;
+    entity.color = Color(name);
+    entity.lineWeight = tags.Double(370);
+    entity.lineStyle.name = LineType(name);
 }
 
 } // namespace VelorExchange::dxf

@@ -35,8 +35,7 @@ void CDXFReaderImpl::FinishHatch(CHatchDXF& hatch)
     if (IsPaperSpace()) {
         return;
     }
-    hatch.layer = Layer();
-    hatch.color = Color();
+    FillLayerAndColor(hatch.layer, hatch.color);
     hatch.angle = tags.Double(52);
     hatch.elevation = tags.Double(30);
     hatch.style.name = Name(2, QStringLiteral("SOLID"));

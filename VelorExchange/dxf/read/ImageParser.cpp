@@ -35,7 +35,7 @@ CDXFTag CDXFReaderImpl::ReadImage()
         return next;
     }
     CImageDXF image;
-    image.layer = Layer();
+    image.layer = EntityLayer().text;
     image.origin = PlanPoint(Coordinates(), 10, 20);
     image.widthPixels = tags.Double(13);
     image.heightPixels = tags.Double(23);

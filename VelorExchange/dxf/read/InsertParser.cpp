@@ -12,9 +12,8 @@ CDXFTag CDXFReaderImpl::ReadInsert()
     }
     CInsertDXF insert;
     insert.name = Name(2, QString());
-    insert.layer = Layer();
-    insert.lineStyle.name = LineType();
-    insert.color = Color();
+    FillLayerAndColor(insert.layer, insert.color);
+    insert.lineStyle.name = LineType(EntityLayer());
     insert.scaleX = tags.Double(41, 1.0);
     insert.scaleY = tags.Double(42, 1.0);
     insert.scaleZ = tags.Double(43, 1.0);

@@ -22,8 +22,7 @@ CDXFTag CDXFReaderImpl::ReadLWPolyline()
         return next;
     }
     CLWPolylineDXF polyline;
-    FillHead(polyline);
-    polyline.lineStyle.name = LineType();
+    FillStyledHead(polyline);
     polyline.elevation = tags.Double(38);
     polyline.width = LWPolylineWidth();
     FillLWPolylineVertices(polyline);

@@ -11,8 +11,7 @@ CDXFTag CDXFReaderImpl::ReadLine()
         return next;
     }
     CLineDXF line;
-    FillHead(line);
-    line.lineStyle.name = LineType();
+    FillStyledHead(line);
     line.start = tags.Point3D(10, 20, 30);
     line.end = tags.Point3D(11, 21, 31);
     Deliver(line, &IDXFReader::OnLine);

@@ -66,8 +66,7 @@ CDXFTag CDXFReaderImpl::ReadMLine()
     DropUnequal(lists, Directions);
     DropUnequal(lists, Miters);
     CMLineDXF mline;
-    mline.layer = Layer();
-    mline.color = Color();
+    FillLayerAndColor(mline.layer, mline.color);
     mline.lineWeight = tags.Double(370);
     mline.style.name = tags.Value(2, QStringLiteral("BYLAYER"));
     const CObjectCoordinates coordinates = Coordinates();

@@ -21,12 +21,12 @@ std::size_t CNameCache::Hash(std::string_view bytes)
         hash ^= hash >> 32U;
         bytes.remove_prefix(taken);
     }
-    return hash;
+    return (hash * kMix) >> (64U - kPlaceBits); // the high bits depend on all bytes
 }
 
 CNameCache::CName& CNameCache::PlaceOf(std::string_view bytes, bool& known)
 {
-    CPlace& place = places[Hash(bytes) % kPlaces];
+    CPlace& place = places[Hash(bytes)];
     known = place.round == round && std::string_view(place.bytes.data(), place.size) == bytes;
     if (!known) {
         place.round = round;

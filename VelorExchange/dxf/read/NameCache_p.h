@@ -24,6 +24,7 @@ public:
     {
         QString text;
         const CLayerDXF* layer = nullptr; // the layer of this name, or null
+        QString lineType; // what an entity on that layer has by layer
     };
 
     CNameCache();
@@ -36,7 +37,8 @@ public:
     void Clear() { ++round; }
 
 private:
-    static constexpr std::size_t kPlaces = 8192;
+    static constexpr unsigned kPlaceBits = 13;
+    static constexpr std::size_t kPlaces = std::size_t{1} << kPlaceBits;
 
     struct CPlace
     {

@@ -11,8 +11,7 @@ CDXFTag CDXFReaderImpl::ReadPoint()
         return next;
     }
     CPointDXF point;
-    point.layer = Layer();
-    point.color = Color();
+    FillLayerAndColor(point.layer, point.color);
     point.point = Coordinates().ToWorld(tags.Point3D(10, 20, 30));
     point.thickness = tags.Double(39);
     Deliver(point, &IDXFReader::OnPoint);

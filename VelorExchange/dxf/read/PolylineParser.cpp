@@ -24,8 +24,7 @@ CDXFTag CDXFReaderImpl::ReadPolyline()
     const CObjectCoordinates coordinates = Coordinates();
     const int flags = tags.Int(70);
     CPolylineDXF polyline;
-    FillHead(polyline);
-    polyline.lineStyle.name = LineType();
+    FillStyledHead(polyline);
     polyline.width = tags.Double(40);
     polyline.is2D = (flags & kIn3DFlag) == 0;
     polyline.closed = (flags & kClosedFlag) != 0;

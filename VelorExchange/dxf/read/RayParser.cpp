@@ -11,8 +11,7 @@ CDXFTag CDXFReaderImpl::ReadRay()
         return next;
     }
     CRayDXF ray;
-    FillHead(ray);
-    ray.lineStyle.name = LineType();
+    FillStyledHead(ray);
     ray.origin = Coordinates().ToWorldFlat(tags.Double(10), tags.Double(20));
     ray.direction = {tags.Double(11), tags.Double(21), 0.0};
     Deliver(ray, &IDXFReader::OnRay);

@@ -14,8 +14,7 @@ CDXFTag CDXFReaderImpl::ReadSolid()
     }
     const CObjectCoordinates coordinates = Coordinates();
     CSolidDXF solid;
-    solid.layer = Layer();
-    solid.color = Color();
+    FillLayerAndColor(solid.layer, solid.color);
     for (int corner = 0; corner < 4; ++corner) {
         AppendPoint(solid.points,
                     coordinates.ToWorld({tags.Double(10 + corner), tags.Double(20 + corner), 0.0}));

@@ -14,8 +14,7 @@ CDXFTag CDXFReaderImpl::ReadSpline()
     }
     const CObjectCoordinates coordinates = Coordinates();
     CSplineDXF spline;
-    FillHead(spline);
-    spline.lineStyle.name = LineType();
+    FillStyledHead(spline);
     FillPoints(spline.controlPoints, 10, 20, 30, &coordinates);
     FillPoints(spline.fitPoints, 11, 21, 31, nullptr);
     tags.SplitDoubles(40, spline.knots);

@@ -42,7 +42,7 @@ CDXFTag CDXFReaderImpl::ReadLayer()
     }
     const int flags = tags.Int(70);
     layer.lineType = tags.Value(6, QStringLiteral("CONTINUOUS"));
-    layer.color = Color();
+    layer.color = Color(EntityLayer());
     layer.lineWeight = tags.Int(370);
     layer.visible = tags.Int(62) >= 0 && (flags & kFrozenFlags) == 0;
     layer.unlocked = (flags & kLockedFlag) == 0;

@@ -13,7 +13,12 @@ constexpr char kJoint = ';';
 
 bool IsIn(int code, std::initializer_list<int> codes)
 {
-    return std::find(codes.begin(), codes.end(), code) != codes.end();
+    for (const int other : codes) {
+        if (code == other) {
+            return true;
+        }
+    }
+    return false;
 }
 
 // Calls `take` for each part of `bytes` between the joints, empty ones left out.
@@ -44,7 +49,15 @@ CDXFTag CDXFTagMap::ReadObject()
 {
     Clear();
     input.StartObject();
-    return ReadUntil({0});
+    CDXFTag tag;
+    while (!input.AtEnd()) {
+        tag = input.ReadTagAhead();
+        if (tag.code == 0) {
+            return tag;
+        }
+        Store(tag);
+    }
+    return tag;
 }
 
 CDXFTag CDXFTagMap::ReadObject(CChain chain)

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "VelorExchange/dxf/read/TagReader_p.h"
 
-#include "VelorExchange/foundation/NumberParser_p.h"
-
 #include <QTextCodec>
 
 #include <algorithm>
@@ -119,19 +117,9 @@ QString CTagReader::Text(const CTextSpan& span, std::string_view part) const
     return decoder->Decode(part.data(), part.size());
 }
 
-bool CTagReader::ToPlainDouble(const CTextSpan& span, double& value) const
+double CTagReader::ToUncommonDouble(const CTextSpan& span) const
 {
-    const std::string_view bytes = Bytes(span);
-    if (span.source == CTextSpan::Recoded) {
-        return ParsePlainDouble(bytes.data(), bytes.size(), value);
-    }
-    return ParsePaddedDouble(bytes.data(), bytes.size(), value);
-}
-
-double CTagReader::ToDouble(const CTextSpan& span) const
-{
-    double value = 0.0;
-    return ToPlainDouble(span, value) ? value : Text(span).toDouble();
+    return Text(span).toDouble();
 }
 
 int CTagReader::ToInt(const CTextSpan& span) const
@@ -151,6 +139,9 @@ bool CTagReader::Is(const CDXFTag& tag, int code, std::string_view name) const
 bool CTagReader::SameText(const CTextSpan& span, std::string_view name) const
 {
     const std::string_view bytes = Bytes(span);
+    if (bytes == name) {
+        return true;
+    }
     if (!detail::IsAscii(bytes)) {
         const QLatin1String other(name.data(), static_cast<int>(name.size()));
         return Text(span).compare(other, Qt::CaseInsensitive) == 0;

@@ -4,6 +4,7 @@
 #include "VelorExchange/dxf/read/LineReader_p.h"
 #include "VelorExchange/dxf/read/Tag_p.h"
 #include "VelorExchange/foundation/LocalText_p.h"
+#include "VelorExchange/foundation/NumberParser_p.h"
 
 #include <QByteArray>
 #include <QString>
@@ -68,7 +69,7 @@ public:
         case CTextSpan::Recoded:
             return {recoded.constData() + span.offset, span.size};
         default:
-            return {kZero, 1};
+            return "0";
         }
     }
 
@@ -79,10 +80,18 @@ public:
     QString Text(const CTextSpan& span, std::string_view part) const;
 
     /// What `QString::toDouble` gives for the text, 0.0 if it does not convert.
-    double ToDouble(const CTextSpan& span) const;
+    double ToDouble(const CTextSpan& span) const
+    {
+        double value = 0.0;
+        return ToPlainDouble(span, value) ? value : ToUncommonDouble(span);
+    }
 
     /// The same, where the text is a plain number; false for any other.
-    bool ToPlainDouble(const CTextSpan& span, double& value) const;
+    bool ToPlainDouble(const CTextSpan& span, double& value) const
+    {
+        return span.source == CTextSpan::Buffer
+            && ParsePaddedDouble(lines.Base() + span.offset, span.size, value);
+    }
 
     /// What `QString::toInt` gives for the text, 0 if it does not convert.
     int ToInt(const CTextSpan& span) const;
@@ -101,16 +110,15 @@ public:
 
 private:
     bool TakePlainCode(int& code);
+    bool TakeAlignedCode(const char* p, int& code);
     int TakeOtherCode();
     CTextSpan TakeText();
     CTextSpan TakeUncommonText(const CRawLine& line);
     CTextSpan TakeAnyText();
+    double ToUncommonDouble(const CTextSpan& span) const;
     bool LongCodeContains(int longCode, int code) const;
     CTextSpan Recode(const CRawLine& line);
     bool SameText(const CTextSpan& span, std::string_view name) const;
-
-    // Bytes are looked at up to this many behind the end of a text.
-    static constexpr char kZero[32] = "0";
 
     CLineReader lines;
     int version = 0;
@@ -127,13 +135,35 @@ namespace detail {
 /// True if no byte is above 127.
 bool IsAscii(std::string_view bytes);
 
-/// True for ASCII but blanks and control characters: what needs no trimming.
-inline bool IsGraphic(char c)
-{
-    return c > ' ' && c < '\x7F';
-}
-
 } // namespace detail
+
+/// The same for the form that most programs write: right-aligned in three columns.
+inline bool CTagReader::TakeAlignedCode(const char* p, int& code)
+{
+    const auto digit = [](char c) {
+        return static_cast<unsigned>(static_cast<unsigned char>(c - '0'));
+    };
+    const unsigned ones = digit(p[2]);
+    unsigned value = ones;
+    if (p[1] != ' ') {
+        const unsigned tens = digit(p[1]);
+        const unsigned hundreds = p[0] == ' ' ? 0 : digit(p[0]);
+        // A zero in front is another code; digits below 10 rule out any other character.
+        if (tens > 9 || hundreds > 9 || p[0] == '0' || (p[0] == ' ' && tens == 0)) {
+            return false;
+        }
+        value += tens * 10 + hundreds * 100;
+    } else if (p[0] != ' ') {
+        return false;
+    }
+    const int ending = p[3] == '\r' ? 4 : 3;
+    if (ones > 9 || p[ending] != '\n') {
+        return false;
+    }
+    code = static_cast<int>(value);
+    lines.TakeTo(p + ending + 1);
+    return true;
+}
 
 /// Takes a line that is blanks, a number of up to four digits in its shortest spelling, and its end:
 /// what codes look like in all but a few files. False, and nothing taken, for any other line.
@@ -142,6 +172,9 @@ inline bool CTagReader::TakePlainCode(int& code)
     constexpr std::ptrdiff_t kMostBytes = 16; // far from where a line is cut
     const char* const begin = lines.Cursor();
     const char* p = begin;
+    if (TakeAlignedCode(p, code)) {
+        return true;
+    }
     const char* const limit = begin + kMostBytes;
     while (*p == ' ' && p != limit) {
         ++p;
@@ -167,10 +200,15 @@ inline bool CTagReader::TakePlainCode(int& code)
 inline CTextSpan CTagReader::TakeText()
 {
     CRawLine line;
-    if (lines.NextShortLine(line) && line.begin != line.end && detail::IsGraphic(*line.begin)
-        && detail::IsGraphic(line.end[-1]) && decoder->TrimsPlainly())
-    {
-        return MakeSpan(line.begin - lines.Base(), CTextSpan::Buffer, line.end - line.begin);
+    if (lines.NextShortLine(line)) {
+        const char* begin = line.begin;
+        while (*begin == ' ') { // ends at the line's end at the latest
+            ++begin;
+        }
+        if (begin < line.end && decoder->StartsPlainly(*begin)
+            && decoder->EndsPlainly(line.end[-1])) {
+            return MakeSpan(begin - lines.Base(), CTextSpan::Buffer, line.end - begin);
+        }
     }
     return line.begin != nullptr ? TakeUncommonText(line) : TakeAnyText();
 }

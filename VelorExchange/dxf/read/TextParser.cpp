@@ -8,11 +8,10 @@ namespace VelorExchange::dxf {
 void CDXFReaderImpl::FillText(CTextDXF& text)
 {
     text.text = tags.Value(1);
-    text.layer = Layer();
+    FillLayerAndColor(text.layer, text.color);
     text.style.name = Name(7, QStringLiteral("STANDARD"));
     text.position = PlanPoint(Coordinates(), 10, 20);
     text.height = tags.Double(40);
-    text.color = Color();
 }
 
 // What TEXT and ATTRIB have beyond that; the angles are degrees in the file.

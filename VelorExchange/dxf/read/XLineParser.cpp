@@ -13,8 +13,7 @@ CDXFTag CDXFReaderImpl::ReadXLine()
     const CObjectCoordinates coordinates = Coordinates();
     const CPoint3D origin = coordinates.ToWorld(tags.Point3D(10, 20, 30));
     CXLineDXF line;
-    FillHead(line);
-    line.lineStyle.name = LineType();
+    FillStyledHead(line);
     line.origin = {origin.x, origin.y};
     line.originZ = origin.z;
     line.direction = PlanPoint(coordinates, 11, 21);
