@@ -24,5 +24,7 @@ folders=()
 for seed in "${seeds[@]}"; do
     [ -d "tests/$seed" ] && folders+=("tests/$seed")
 done
-exec "$binary" "${limit[@]}" -timeout=25 -rss_limit_mb=2048 -max_len=65536 -print_final_stats=1 \
+dictionary=()
+[ -f "fuzz/$name.dict" ] && dictionary=("-dict=fuzz/$name.dict")
+exec "$binary" "${limit[@]}" "${dictionary[@]}" -timeout=25 -rss_limit_mb=2048 -max_len=65536 -print_final_stats=1 \
     -artifact_prefix=build/fuzz/finds/ "$corpus" "${folders[@]}"

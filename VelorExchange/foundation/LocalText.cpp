@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cstring>
 #include <iterator>
+#include <numeric>
 
 namespace VelorExchange {
 
@@ -98,14 +99,19 @@ CTextDecoder CTextDecoder::Local()
 // False if a byte is not one character of the basic plane, or ASCII is not itself.
 bool CTextDecoder::FillTable()
 {
+    std::array<char, 256> bytes{};
+    std::iota(bytes.begin(), bytes.end(), '\0');
+    const QString text = codec->toUnicode(bytes.data(), static_cast<int>(bytes.size()));
+    if (text.size() != static_cast<int>(bytes.size())) {
+        return false;
+    }
     for (std::size_t byte = 0; byte < table.size(); ++byte) {
-        const char c = static_cast<char>(byte);
-        const QString text = codec->toUnicode(&c, 1);
-        if (text.size() != 1 || (byte < 0x80 && text.at(0).unicode() != byte)) {
+        const QChar c = text.at(static_cast<int>(byte));
+        if (byte < 0x80 && c.unicode() != byte) {
             return false;
         }
-        table[byte] = text.at(0).unicode();
-        space[byte] = text.at(0).isSpace();
+        table[byte] = c.unicode();
+        space[byte] = c.isSpace();
     }
     return true;
 }

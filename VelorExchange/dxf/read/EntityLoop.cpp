@@ -124,6 +124,7 @@ QString CDXFReaderImpl::Name(int code, const QString& absent)
     return name != nullptr ? name->text : tags.Value(code, absent);
 }
 
+// The reference is good until the next name is looked up.
 const CNameCache::CName& CDXFReaderImpl::EntityLayer()
 {
     const CNameCache::CName* const name = KnownName(8);

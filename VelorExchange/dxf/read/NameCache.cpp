@@ -7,7 +7,7 @@
 
 namespace VelorExchange::dxf {
 
-CNameCache::CNameCache() : places(std::make_unique<CPlace[]>(kPlaces)) { }
+CNameCache::CNameCache() : places(std::size_t{1} << kFewestBits) { }
 
 std::size_t CNameCache::Hash(std::string_view bytes)
 {
@@ -21,20 +21,31 @@ std::size_t CNameCache::Hash(std::string_view bytes)
         hash ^= hash >> 32U;
         bytes.remove_prefix(taken);
     }
-    return (hash * kMix) >> (64U - kPlaceBits); // the high bits depend on all bytes
+    return hash * kMix; // the high bits depend on all bytes
 }
 
 CNameCache::CName& CNameCache::PlaceOf(std::string_view bytes, bool& known)
 {
-    CPlace& place = places[Hash(bytes)];
+    CPlace& place = places[Hash(bytes) >> (64U - bits)];
     known = place.round == round && std::string_view(place.bytes.data(), place.size) == bytes;
-    if (!known) {
-        place.round = round;
-        place.size = bytes.size();
-        std::copy(bytes.begin(), bytes.end(), place.bytes.begin());
-        place.name = CName();
+    return known ? place.name : Newcomer(bytes).name;
+}
+
+// A larger number of places starts out empty, which costs no more than finding the names again.
+CNameCache::CPlace& CNameCache::Newcomer(std::string_view bytes)
+{
+    if (++newcomers > places.size() && bits < kMostBits) {
+        ++bits;
+        newcomers = 0;
+        places.clear();
+        places.resize(std::size_t{1} << bits);
     }
-    return place.name;
+    CPlace& place = places[Hash(bytes) >> (64U - bits)];
+    place.round = round;
+    place.size = bytes.size();
+    std::copy(bytes.begin(), bytes.end(), place.bytes.begin());
+    place.name = CName();
+    return place;
 }
 
 } // namespace VelorExchange::dxf

@@ -7,14 +7,14 @@
 
 #include <array>
 #include <cstddef>
-#include <memory>
 #include <string_view>
+#include <vector>
 
 namespace VelorExchange::dxf {
 
 /// Remembers what short names of layers, line types and text styles decode to, so that the same bytes
-/// are decoded and looked up once and share one string. A fixed number of places; a newcomer takes the
-/// place of what was there.
+/// are decoded and looked up once and share one string. A newcomer takes the place of what was there;
+/// where that happens often there come to be more places, up to a fixed number.
 class CNameCache final
 {
 public:
@@ -37,8 +37,8 @@ public:
     void Clear() { ++round; }
 
 private:
-    static constexpr unsigned kPlaceBits = 13;
-    static constexpr std::size_t kPlaces = std::size_t{1} << kPlaceBits;
+    static constexpr unsigned kFewestBits = 6; // of the number of a place
+    static constexpr unsigned kMostBits = 13;
 
     struct CPlace
     {
@@ -49,8 +49,11 @@ private:
     };
 
     static std::size_t Hash(std::string_view bytes);
+    CPlace& Newcomer(std::string_view bytes);
 
-    std::unique_ptr<CPlace[]> places;
+    std::vector<CPlace> places;
+    unsigned bits = kFewestBits;
+    std::size_t newcomers = 0;
     unsigned round = 1;
 };
 
