@@ -1,0 +1,238 @@
+// SPDX-License-Identifier: MIT
+#include "tools/velorx/DxfSummary.h"
+
+#include <boost/variant2/variant.hpp>
+
+#include <tuple>
+
+namespace velorx {
+
+using namespace VelorExchange::dxf;
+
+namespace {
+
+// Positions in CEntityVariantDXF, and CIRCLE behind them.
+enum EKind : std::size_t {
+    kPoint,
+    kLine,
+    kXLine,
+    kArc,
+    kSpline,
+    kLWPolyline,
+    kPolyline,
+    kText,
+    kMText,
+    kSolid,
+    kHatch,
+    k3DFace,
+    kImage,
+    kRay,
+    kMLine,
+    kAttDef,
+    kInsert,
+    kEllipse,
+    kCircle,
+    kKinds
+};
+
+static_assert(kKinds == std::tuple_size<CEntityCounts>::value);
+static_assert(kCircle == boost::variant2::variant_size<CEntityVariantDXF>::value);
+
+struct SKind
+{
+    const char* name;
+    const char* operation;
+};
+
+constexpr SKind kKindTable[kKinds] = {
+    {"POINT", "OnPoint"},       {"LINE", "OnLine"},     {"XLINE", "OnXLine"},
+    {"ARC", "OnArc"},           {"SPLINE", "OnSpline"}, {"LWPOLYLINE", "OnLWPolyline"},
+    {"POLYLINE", "OnPolyline"}, {"TEXT", "OnText"},     {"MTEXT", "OnMText"},
+    {"SOLID", "OnSolid"},       {"HATCH", "OnHatch"},   {"3DFACE", "On3DFace"},
+    {"IMAGE", "OnImage"},       {"RAY", "OnRay"},       {"MLINE", "OnMLine"},
+    {"ATTDEF", nullptr},        {"INSERT", "OnInsert"}, {"ELLIPSE", "OnEllipse"},
+    {"CIRCLE", "OnArc"},
+};
+
+std::size_t KindOf(const CArcDXF& arc)
+{
+    return arc.startAngle == arc.endAngle ? kCircle : kArc;
+}
+
+std::size_t KindOf(const CEntityVariantDXF& entity)
+{
+    const auto* arc = boost::variant2::get_if<CArcDXF>(&entity);
+    return arc != nullptr ? KindOf(*arc) : entity.index();
+}
+
+} // namespace
+
+const char* EntityName(std::size_t index)
+{
+    return kKindTable[index].name;
+}
+
+const char* EntityOperation(std::size_t index)
+{
+    return kKindTable[index].operation;
+}
+
+QString CDxfSummary::Read(const QString& path, IDXFProgress* bar)
+{
+    progress = bar;
+    result = VelorExchange::dxf::Read(path, this);
+    progress = nullptr;
+    return result ? QString() : QStringLiteral("the drawing ends inside a block");
+}
+
+// ---- Entities ---------------------------------------------------------------------------------
+
+bool CDxfSummary::OnPolyline(const CPolylineDXF&)
+{
+    ++drawing[kPolyline];
+    return true;
+}
+
+bool CDxfSummary::OnMLine(const CMLineDXF&)
+{
+    ++drawing[kMLine];
+    return true;
+}
+
+bool CDxfSummary::OnEllipse(const CEllipseDXF&)
+{
+    ++drawing[kEllipse];
+    return true;
+}
+
+bool CDxfSummary::OnLWPolyline(const CLWPolylineDXF&)
+{
+    ++drawing[kLWPolyline];
+    return true;
+}
+
+bool CDxfSummary::OnSpline(const CSplineDXF&)
+{
+    ++drawing[kSpline];
+    return true;
+}
+
+bool CDxfSummary::OnSolid(const CSolidDXF&)
+{
+    ++drawing[kSolid];
+    return true;
+}
+
+bool CDxfSummary::OnLine(const CLineDXF&)
+{
+    ++drawing[kLine];
+    return true;
+}
+
+bool CDxfSummary::On3DFace(const C3DFaceDXF&)
+{
+    ++drawing[k3DFace];
+    return true;
+}
+
+bool CDxfSummary::OnXLine(const CXLineDXF&)
+{
+    ++drawing[kXLine];
+    return true;
+}
+
+bool CDxfSummary::OnRay(const CRayDXF&)
+{
+    ++drawing[kRay];
+    return true;
+}
+
+bool CDxfSummary::OnArc(const CArcDXF& arc)
+{
+    ++drawing[KindOf(arc)];
+    return true;
+}
+
+bool CDxfSummary::OnImage(const CImageDXF&)
+{
+    ++drawing[kImage];
+    return true;
+}
+
+bool CDxfSummary::OnInsert(const CInsertDXF& insert)
+{
+    ++drawing[kInsert];
+    insertAttributes += static_cast<qint64>(insert.attributes.size());
+    return true;
+}
+
+bool CDxfSummary::OnHatch(const CHatchDXF&)
+{
+    ++drawing[kHatch];
+    return true;
+}
+
+bool CDxfSummary::OnMText(const CMTextDXF&)
+{
+    ++drawing[kMText];
+    return true;
+}
+
+bool CDxfSummary::OnText(const CTextDXF&)
+{
+    ++drawing[kText];
+    return true;
+}
+
+bool CDxfSummary::OnPoint(const CPointDXF&)
+{
+    ++drawing[kPoint];
+    return true;
+}
+
+// ---- Blocks, tables, header -------------------------------------------------------------------
+
+bool CDxfSummary::OnBlock(const CBlockDXF& block)
+{
+    blocks.Add({block.name, static_cast<qint64>(block.entities.size())});
+    for (const CEntityVariantDXF& entity : block.entities) {
+        ++inBlocks[KindOf(entity)];
+        if (const auto* insert = boost::variant2::get_if<CInsertDXF>(&entity)) {
+            insertAttributes += static_cast<qint64>(insert->attributes.size());
+        }
+    }
+    return true;
+}
+
+bool CDxfSummary::OnTextStyle(const CTextStyleDXF& style)
+{
+    textStyles.Add(style);
+    return true;
+}
+
+bool CDxfSummary::OnMLineStyle(const CMLineStyleDXF& style)
+{
+    mlineStyles.Add({style.name, static_cast<qint64>(style.colors.size())});
+    return true;
+}
+
+bool CDxfSummary::OnLineStyle(const CLineStyleDXF& style)
+{
+    lineTypes.Add(style.name);
+    return true;
+}
+
+bool CDxfSummary::OnLayer(const CLayerDXF& layer)
+{
+    layers.Add(layer);
+    return true;
+}
+
+bool CDxfSummary::OnHeader(const CHeaderDXF& delivered)
+{
+    ++headers;
+    header = delivered;
+    return true;
+}
+
+} // namespace velorx

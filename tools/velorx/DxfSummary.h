@@ -1,0 +1,106 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "tools/velorx/ISummary.h"
+#include "VelorExchange/DXF.h"
+
+#include <QString>
+
+#include <array>
+#include <cstddef>
+#include <vector>
+
+namespace velorx {
+
+/// A list of a drawing that keeps its first entries and counts all of them, so that a file with
+/// millions of blocks needs no more memory than one with a few thousand.
+template <class T>
+struct CListed
+{
+    static constexpr std::size_t kKept = 10000;
+
+    std::vector<T> first; ///< The first entries, `kKept` at most.
+    qint64 total = 0; ///< All entries.
+
+    void Add(T entry)
+    {
+        ++total;
+        if (first.size() < kKept) {
+            first.push_back(std::move(entry));
+        }
+    }
+};
+
+/// Counts of entities by kind: the indices of `CEntityVariantDXF`, then CIRCLE, which travels as an
+/// arc of equal angles.
+using CEntityCounts = std::array<qint64, 19>;
+
+/// Name of the kind `index` of `CEntityCounts` as it stands in a drawing, "LWPOLYLINE".
+const char* EntityName(std::size_t index);
+
+/// Name of the operation that delivers the kind `index`, "OnLWPolyline"; null for ATTDEF, which has
+/// none.
+const char* EntityOperation(std::size_t index);
+
+/// What is in a drawing, read with all gates open.
+class CDxfSummary final : public ISummary, public VelorExchange::dxf::IDXFReader
+{
+public:
+    struct SBlock
+    {
+        QString name;
+        qint64 entities = 0;
+    };
+
+    struct SMLineStyle
+    {
+        QString name;
+        qint64 elements = 0; ///< Lines that run side by side.
+    };
+
+    QString Read(const QString& path, VelorExchange::dxf::IDXFProgress* progress) override;
+    QString ToText() const override;
+    QJsonObject ToJson() const override;
+
+    bool OnPolyline(const VelorExchange::dxf::CPolylineDXF&) override;
+    bool OnMLine(const VelorExchange::dxf::CMLineDXF&) override;
+    bool OnEllipse(const VelorExchange::dxf::CEllipseDXF&) override;
+    bool OnLWPolyline(const VelorExchange::dxf::CLWPolylineDXF&) override;
+    bool OnSpline(const VelorExchange::dxf::CSplineDXF&) override;
+    bool OnSolid(const VelorExchange::dxf::CSolidDXF&) override;
+    bool OnLine(const VelorExchange::dxf::CLineDXF&) override;
+    bool On3DFace(const VelorExchange::dxf::C3DFaceDXF&) override;
+    bool OnXLine(const VelorExchange::dxf::CXLineDXF&) override;
+    bool OnRay(const VelorExchange::dxf::CRayDXF&) override;
+    bool OnArc(const VelorExchange::dxf::CArcDXF& arc) override;
+    bool OnImage(const VelorExchange::dxf::CImageDXF&) override;
+    bool OnInsert(const VelorExchange::dxf::CInsertDXF& insert) override;
+    bool OnHatch(const VelorExchange::dxf::CHatchDXF&) override;
+    bool OnMText(const VelorExchange::dxf::CMTextDXF&) override;
+    bool OnText(const VelorExchange::dxf::CTextDXF&) override;
+    bool OnPoint(const VelorExchange::dxf::CPointDXF&) override;
+    bool OnBlock(const VelorExchange::dxf::CBlockDXF& block) override;
+    bool OnTextStyle(const VelorExchange::dxf::CTextStyleDXF& style) override;
+    bool OnMLineStyle(const VelorExchange::dxf::CMLineStyleDXF& style) override;
+    bool OnLineStyle(const VelorExchange::dxf::CLineStyleDXF& style) override;
+    bool OnLayer(const VelorExchange::dxf::CLayerDXF& layer) override;
+    bool OnHeader(const VelorExchange::dxf::CHeaderDXF& header) override;
+    VelorExchange::dxf::IDXFProgress* GetProgress() override { return progress; }
+
+    bool result = false; ///< What `dxf::Read` returned.
+    qint64 headers = 0; ///< Calls of `OnHeader`.
+    VelorExchange::dxf::CHeaderDXF header; ///< The last one delivered, or its defaults.
+    CListed<VelorExchange::dxf::CLayerDXF> layers;
+    CListed<VelorExchange::dxf::CTextStyleDXF> textStyles;
+    CListed<QString> lineTypes;
+    CListed<SMLineStyle> mlineStyles;
+    CListed<SBlock> blocks;
+    CEntityCounts drawing{}; ///< Entities that were delivered by themselves.
+    CEntityCounts inBlocks{}; ///< Entities that were delivered inside blocks.
+    qint64 insertAttributes = 0; ///< Attributes of all inserts, in the drawing and in blocks.
+
+private:
+    VelorExchange::dxf::IDXFProgress* progress = nullptr;
+};
+
+} // namespace velorx

@@ -1,0 +1,90 @@
+// SPDX-License-Identifier: MIT
+#include "tools/velorx/HostCodec.h"
+
+namespace velorx {
+
+namespace {
+
+constexpr ushort kRawByteBase = 0xDC00;
+constexpr ushort kFirstRawByte = kRawByteBase + 0x80;
+constexpr ushort kLastRawByte = kRawByteBase + 0xFF;
+
+// A low surrogate behind a high one is half of an ordinary character.
+bool IsRawByte(const QChar* text, int at)
+{
+    const ushort unit = text[at].unicode();
+    return unit >= kFirstRawByte && unit <= kLastRawByte
+        && (at == 0 || !text[at - 1].isHighSurrogate());
+}
+
+// Control characters do not count: IBM code pages exchange three of them.
+bool IsAsciiTransparent(const QTextCodec& codec)
+{
+    QString ascii;
+    for (ushort c = ' '; c < 0x7F; ++c) {
+        ascii.append(QChar(c));
+    }
+    return codec.fromUnicode(ascii) == ascii.toLatin1()
+        && codec.toUnicode(ascii.toLatin1()) == ascii;
+}
+
+const QTextCodec* FindCodePage(const std::string& name)
+{
+    const QTextCodec* codec =
+        name.empty() ? nullptr : QTextCodec::codecForName(QByteArray::fromStdString(name));
+    return codec != nullptr && IsAsciiTransparent(*codec) ? codec : nullptr;
+}
+
+} // namespace
+
+QString CHostCodec::convertToUnicode(const char* in, int length, ConverterState* state) const
+{
+    return codePage.toUnicode(in, length, state);
+}
+
+QByteArray CHostCodec::convertFromUnicode(const QChar* in, int length, ConverterState* state) const
+{
+    QByteArray bytes;
+    int begin = 0;
+    for (int at = 0; at <= length; ++at) {
+        if (at < length && !IsRawByte(in, at)) {
+            continue;
+        }
+        if (at > begin) {
+            bytes += codePage.fromUnicode(in + begin, at - begin, state);
+        }
+        if (at < length) {
+            bytes += static_cast<char>(in[at].unicode() - kRawByteBase);
+        }
+        begin = at + 1;
+    }
+    return bytes;
+}
+
+bool SetCodePage(const std::string& name)
+{
+    const QTextCodec* codePage = FindCodePage(name);
+    if (codePage == nullptr) {
+        return false;
+    }
+    QTextCodec::setCodecForLocale(new CHostCodec(*codePage));
+    return true;
+}
+
+bool IsCodePage(const std::string& name)
+{
+    return FindCodePage(name) != nullptr;
+}
+
+QString PathFromBytes(const std::string& bytes)
+{
+    QString path;
+    path.reserve(static_cast<int>(bytes.size()));
+    for (const char c : bytes) {
+        const ushort byte = static_cast<unsigned char>(c);
+        path.append(QChar(byte < 0x80 ? byte : static_cast<ushort>(kRawByteBase + byte)));
+    }
+    return path;
+}
+
+} // namespace velorx

@@ -1,0 +1,76 @@
+// SPDX-License-Identifier: MIT
+#include "tools/velorx/ProgressBar.h"
+
+#include <unistd.h>
+
+#include <algorithm>
+#include <cstdio>
+#include <utility>
+
+namespace velorx {
+
+namespace {
+
+constexpr std::chrono::milliseconds kSilence{500};
+constexpr int kWidth = 40;
+constexpr int kAll = 100;
+constexpr char kWipe[] = "\r\033[K";
+
+} // namespace
+
+CProgressBar::CProgressBar(Output out, Clock time) : output(std::move(out)), clock(std::move(time))
+{
+}
+
+void CProgressBar::Begin(const QString& /*title*/, qint64 size)
+{
+    start = clock();
+    total = std::max<qint64>(size, 1);
+    next = 0;
+    shown = false;
+}
+
+void CProgressBar::SetPosition(qint64 position)
+{
+    if (position < next) {
+        return;
+    }
+    const int percent =
+        static_cast<int>(std::min<qint64>(kAll, position / std::max<qint64>(1, total / kAll)));
+    next = position + std::max<qint64>(1, total / kAll);
+    if (clock() - start >= kSilence) {
+        Draw(percent);
+    }
+}
+
+void CProgressBar::Finish()
+{
+    if (shown) {
+        output(kWipe);
+    }
+}
+
+void CProgressBar::Draw(int percent)
+{
+    const auto filled = static_cast<std::size_t>(percent * kWidth / kAll);
+    output("\r[" + std::string(filled, '#') + std::string(kWidth - filled, '.') + "] "
+           + std::to_string(percent) + " %");
+    shown = true;
+}
+
+bool IsTerminal()
+{
+    return isatty(STDERR_FILENO) == 1;
+}
+
+CProgressBar TerminalProgressBar()
+{
+    return CProgressBar(
+        [](const std::string& text) {
+            std::fwrite(text.data(), 1, text.size(), stderr);
+            std::fflush(stderr);
+        },
+        [] { return std::chrono::steady_clock::now(); });
+}
+
+} // namespace velorx

@@ -1,0 +1,92 @@
+// SPDX-License-Identifier: MIT
+// velorx, the command line host of VelorExchange: parses the command line and runs one command.
+#include "tools/velorx/HostCodec.h"
+#include "tools/velorx/InfoCommand.h"
+#include "tools/velorx/Output.h"
+
+#include <CLI/CLI.hpp>
+
+#include <exception>
+#include <memory>
+#include <utility>
+#include <vector>
+
+namespace {
+
+using velorx::EExit;
+using velorx::ICommand;
+
+constexpr char kFooter[] = "Exit codes: 0 done, 1 a file could not be read or written whole,\n"
+                           "2 wrong usage.";
+
+std::string CheckCodePage(const std::string& name)
+{
+    return velorx::IsCodePage(name) ? std::string() : "unknown code page " + name;
+}
+
+std::string FailureMessage(const CLI::App* /*app*/, const CLI::Error& error)
+{
+    return std::string("velorx: ") + error.what() + "\nvelorx --help tells how it is used.\n";
+}
+
+/// The commands, with what each of them has added to the parser.
+using CCommands = std::vector<std::pair<std::unique_ptr<ICommand>, CLI::App*>>;
+
+// The option stands with each command and ahead of it, so that either order works.
+void AddCodePage(CLI::App& app, std::string& codePage)
+{
+    app.add_option("--codepage", codePage, "Code page of 8-bit text in files")
+        ->type_name("NAME")
+        ->check(CheckCodePage, "", "")
+        ->capture_default_str();
+}
+
+CCommands AddCommands(CLI::App& app)
+{
+    CCommands commands;
+    commands.emplace_back(std::make_unique<velorx::CInfoCommand>(), nullptr);
+    for (auto& [command, parser] : commands) {
+        parser = command->AddTo(app);
+    }
+    return commands;
+}
+
+int Run(int argc, char** argv)
+{
+    CLI::App app("velorx reads drawings and maps and says what is in them.", "velorx");
+    std::string codePage = "windows-1251";
+    app.set_version_flag("--version", "velorx " VELORX_VERSION);
+    app.footer(kFooter);
+    app.require_subcommand(1);
+    app.failure_message(FailureMessage);
+    AddCodePage(app, codePage);
+    const CCommands commands = AddCommands(app);
+    for (const auto& entry : commands) {
+        AddCodePage(*entry.second, codePage);
+        entry.second->footer(kFooter);
+    }
+    try {
+        app.parse(argc, argv);
+    } catch (const CLI::ParseError& error) {
+        return app.exit(error) == 0 ? velorx::kExitDone : velorx::kExitUsage;
+    }
+    velorx::SetCodePage(codePage);
+    for (const auto& [command, parser] : commands) {
+        if (parser->parsed()) {
+            return command->Run();
+        }
+    }
+    return velorx::kExitUsage;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    try {
+        return Run(argc, argv);
+    } catch (const std::exception& error) {
+        velorx::PrintError(error.what());
+        return velorx::kExitFailed;
+    }
+}
