@@ -6,6 +6,8 @@ namespace velorx {
 namespace {
 
 constexpr char kComment[] = "999";
+constexpr int kVersionDigits = 4;
+constexpr int kDefaultVersion = 1009;
 
 // Takes one line off the front; all three kinds of line ends count.
 QByteArray TakeLine(QByteArray& text)
@@ -33,6 +35,23 @@ bool IsDxfContent(const QByteArray& head)
         }
     }
     return false;
+}
+
+int VersionNearStart(const QByteArray& head)
+{
+    QByteArray rest = head;
+    bool isNext = false;
+    while (!rest.isEmpty()) {
+        const QByteArray code = TakeLine(rest);
+        const QByteArray value = TakeLine(rest);
+        if (isNext && code == "1") {
+            bool ok = false;
+            const int version = value.right(kVersionDigits).toInt(&ok);
+            return ok ? version : kDefaultVersion;
+        }
+        isNext = isNext || (code == "9" && value.toUpper() == "$ACADVER");
+    }
+    return kDefaultVersion;
 }
 
 } // namespace velorx

@@ -1,6 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "tools/velorx/DxfSummary.h"
 
+#include "tools/velorx/DxfContent.h"
+#include "tools/velorx/Family.h"
+
+#include <QFile>
+
 #include <boost/variant2/variant.hpp>
 
 #include <tuple>
@@ -65,6 +70,12 @@ std::size_t KindOf(const CEntityVariantDXF& entity)
     return arc != nullptr ? KindOf(*arc) : entity.index();
 }
 
+QByteArray HeadOf(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.read(kHeadSize) : QByteArray();
+}
+
 } // namespace
 
 const char* EntityName(std::size_t index)
@@ -82,6 +93,7 @@ QString CDxfSummary::Read(const QString& path, IDXFProgress* bar)
     progress = bar;
     result = VelorExchange::dxf::Read(path, this);
     progress = nullptr;
+    version = headers > 0 ? header.version : VersionNearStart(HeadOf(path));
     return result ? QString() : QStringLiteral("the drawing ends inside a block");
 }
 

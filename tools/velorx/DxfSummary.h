@@ -89,6 +89,7 @@ public:
 
     bool result = false; ///< What `dxf::Read` returned.
     qint64 headers = 0; ///< Calls of `OnHeader`.
+    int version = 0; ///< That of the header, or what the file tells without a complete one.
     VelorExchange::dxf::CHeaderDXF header; ///< The last one delivered, or its defaults.
     CListed<VelorExchange::dxf::CLayerDXF> layers;
     CListed<VelorExchange::dxf::CTextStyleDXF> textStyles;

@@ -105,7 +105,7 @@ QJsonObject CDxfSummary::ToJson() const
     const auto asIs = [](const QString& name) { return QJsonValue(name); };
     return QJsonObject{
         {QStringLiteral("result"), result},
-        {QStringLiteral("version"), header.version},
+        {QStringLiteral("version"), version},
         {QStringLiteral("extents"), Extents(*this)},
         {QStringLiteral("layers"), ToArray(layers, LayerObject)},
         {QStringLiteral("text_styles"), ToArray(textStyles, TextStyleObject)},

@@ -37,11 +37,13 @@ QString PointText(const VelorExchange::CPoint3D& point)
 
 QString HeaderText(const CDxfSummary& summary)
 {
-    if (summary.headers == 0) {
-        return QStringLiteral("No header was read; such a drawing counts as version 1009.\n");
-    }
     CTextTable table({EAlign::Left, EAlign::Left});
-    table.Add({QStringLiteral("Version"), QString::number(summary.header.version)});
+    const QString version = QString::number(summary.version);
+    if (summary.headers == 0) {
+        table.Add({QStringLiteral("Version"), version + QStringLiteral(" (no complete header)")});
+        return table.ToText();
+    }
+    table.Add({QStringLiteral("Version"), version});
     table.Add({QStringLiteral("Extents from"), PointText(summary.header.extMin)});
     table.Add({QStringLiteral("Extents to"), PointText(summary.header.extMax)});
     return table.ToText();

@@ -6,14 +6,13 @@ namespace velorx {
 namespace {
 
 constexpr ushort kRawByteBase = 0xDC00;
-constexpr ushort kFirstRawByte = kRawByteBase + 0x80;
 constexpr ushort kLastRawByte = kRawByteBase + 0xFF;
 
 // A low surrogate behind a high one is half of an ordinary character.
 bool IsRawByte(const QChar* text, int at)
 {
     const ushort unit = text[at].unicode();
-    return unit >= kFirstRawByte && unit <= kLastRawByte
+    return unit >= kRawByteBase && unit <= kLastRawByte
         && (at == 0 || !text[at - 1].isHighSurrogate());
 }
 
@@ -81,8 +80,9 @@ QString PathFromBytes(const std::string& bytes)
     QString path;
     path.reserve(static_cast<int>(bytes.size()));
     for (const char c : bytes) {
+        const bool isPlain = c >= ' ' && c <= '~';
         const ushort byte = static_cast<unsigned char>(c);
-        path.append(QChar(byte < 0x80 ? byte : static_cast<ushort>(kRawByteBase + byte)));
+        path.append(QChar(isPlain ? byte : static_cast<ushort>(kRawByteBase + byte)));
     }
     return path;
 }

@@ -14,7 +14,7 @@ namespace velorx {
 ///
 /// Qt turns file names into bytes by the same codec that decodes 8-bit text, so that a path typed in a
 /// UTF-8 terminal would not open while drawings are read as windows-1251. `PathFromBytes` therefore
-/// carries each byte beyond ASCII as a lone low surrogate, U+DC00 plus the byte, which no decoder ever
+/// carries each byte that is no printable ASCII as a lone low surrogate, U+DC00 plus the byte, which no decoder ever
 /// produces, and this codec turns such a character back into that one byte. Everything else is the code
 /// page's own work.
 class CHostCodec final : public QTextCodec

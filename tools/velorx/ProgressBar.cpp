@@ -35,8 +35,7 @@ void CProgressBar::SetPosition(qint64 position)
     if (position < next) {
         return;
     }
-    const int percent =
-        static_cast<int>(std::min<qint64>(kAll, position / std::max<qint64>(1, total / kAll)));
+    const int percent = static_cast<int>(std::min<qint64>(kAll, position * kAll / total));
     next = position + std::max<qint64>(1, total / kAll);
     if (clock() - start >= kSilence) {
         Draw(percent);

@@ -1,0 +1,95 @@
+// SPDX-License-Identifier: MIT
+// The program as a whole: its command line, its exit codes, where it writes.
+#include "tests/tools/RunVelorx.h"
+
+#include <gtest/gtest.h>
+
+namespace velorx::test {
+
+namespace {
+
+constexpr char kPlan[] = "data/survey-plan.dxf";
+
+void ExpectWrongUsage(const std::vector<std::string>& arguments)
+{
+    const SRun run = RunVelorx(arguments);
+    EXPECT_EQ(run.exitCode, 2);
+    EXPECT_EQ(run.out, "");
+    EXPECT_EQ(run.err.rfind("velorx: ", 0), 0U) << run.err;
+}
+
+bool Contains(const std::string& text, const std::string& part)
+{
+    return text.find(part) != std::string::npos;
+}
+
+} // namespace
+
+TEST(Velorx, HelpNamesCommandsOptionsAndExitCodes)
+{
+    const SRun run = RunVelorx({"--help"});
+    EXPECT_EQ(run.exitCode, 0);
+    EXPECT_EQ(run.err, "");
+    for (const char* part : {"info", "--codepage NAME", "windows-1251", "Exit codes: 0 done"}) {
+        EXPECT_TRUE(Contains(run.out, part)) << part;
+    }
+}
+
+TEST(Velorx, EveryCommandHasHelpOfItsOwn)
+{
+    const SRun run = RunVelorx({"info", "--help"});
+    EXPECT_EQ(run.exitCode, 0);
+    EXPECT_TRUE(Contains(run.out, "velorx info [OPTIONS] FILE")) << run.out;
+    EXPECT_TRUE(Contains(run.out, "--json")) << run.out;
+    EXPECT_TRUE(Contains(run.out, "--codepage")) << run.out;
+}
+
+TEST(Velorx, VersionIsThatOfTheLibrary)
+{
+    const SRun run = RunVelorx({"--version"});
+    EXPECT_EQ(run.exitCode, 0);
+    EXPECT_EQ(run.out, "velorx " VELORX_VERSION "\n");
+}
+
+TEST(Velorx, WrongUsageEndsWithTwo)
+{
+    ExpectWrongUsage({});
+    ExpectWrongUsage({"frobnicate"});
+    ExpectWrongUsage({"info"});
+    ExpectWrongUsage({"info", kPlan, kPlan});
+    ExpectWrongUsage({"info", "--loud", kPlan});
+}
+
+TEST(Velorx, UnknownCodePageIsWrongUsage)
+{
+    ExpectWrongUsage({"info", "--codepage", "windows-9999", kPlan});
+    ExpectWrongUsage({"--codepage", "windows-9999", "info", kPlan});
+    ExpectWrongUsage({"info", "--codepage", "UTF-16", kPlan});
+    ExpectWrongUsage({"info", kPlan, "--codepage"});
+}
+
+TEST(Velorx, TakesTheCodePageOnEitherSideOfTheCommand)
+{
+    const SRun before = RunVelorx({"--codepage", "IBM866", "info", kPlan});
+    const SRun behind = RunVelorx({"info", kPlan, "--codepage", "IBM866"});
+    EXPECT_EQ(before.exitCode, 0);
+    EXPECT_EQ(before.out, behind.out);
+    EXPECT_NE(before.out, RunVelorx({"info", kPlan}).out);
+}
+
+TEST(Velorx, FullDiskIsAFailure)
+{
+    const SRun run = RunVelorx({"info", kPlan}, "/dev/full");
+    EXPECT_EQ(run.exitCode, 1);
+    EXPECT_EQ(run.err, "velorx: cannot write to standard output\n");
+}
+
+TEST(Velorx, ShowsNoProgressWhereTheWorkIsQuick)
+{
+    const SRun run = RunVelorxOnTerminal({"info", kPlan});
+    EXPECT_EQ(run.exitCode, 0);
+    EXPECT_EQ(run.err, "");
+    EXPECT_EQ(run.out, RunVelorx({"info", kPlan}).out);
+}
+
+} // namespace velorx::test
