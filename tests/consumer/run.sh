@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
-# run.sh install|find-package|pkg-config|tool BUILD PREFIX: installs the build, or makes a program
-# outside of the tree that uses the installed copy and runs it. Flags for the compiler come in
+# run.sh install|find-package|pkg-config|readme|tool BUILD PREFIX: installs the build, or makes a
+# program outside of the tree that uses the installed copy and runs it. Flags for the compiler come in
 # CXX and CXXFLAGS, the folder of libraries below the prefix in LIBDIR.
 set -euo pipefail
 here=$(cd "$(dirname "$0")" && pwd)
@@ -13,6 +13,15 @@ run_consumer() {
     local seen
     seen=$("$1" "$here/drawing.dxf")
     [ "$seen" = $'Roads\nWater' ] || { echo "the consumer printed: $seen"; exit 1; }
+}
+
+build_with_pkg_config() {
+    command -v pkg-config >/dev/null || { echo "skipped: pkg-config is not installed"; exit 77; }
+    export PKG_CONFIG_PATH=$prefix/$LIBDIR/pkgconfig
+    mkdir -p "$work"
+    # shellcheck disable=SC2046,SC2086  # lists of flags
+    "$CXX" $CXXFLAGS -std=c++17 -fPIC "$1" -o "$work/consumer" \
+        $(pkg-config --cflags --libs velorexchange) "-Wl,-rpath,$prefix/$LIBDIR"
 }
 
 rm -rf "$work"
@@ -30,13 +39,15 @@ find-package)
     run_consumer "$work/consumer"
     ;;
 pkg-config)
-    command -v pkg-config >/dev/null || { echo "skipped: pkg-config is not installed"; exit 77; }
-    export PKG_CONFIG_PATH=$prefix/$LIBDIR/pkgconfig
-    mkdir -p "$work"
-    # shellcheck disable=SC2046,SC2086  # lists of flags
-    "$CXX" $CXXFLAGS -std=c++17 -fPIC "$here/consumer.cpp" -o "$work/consumer" \
-        $(pkg-config --cflags --libs velorexchange) "-Wl,-rpath,$prefix/$LIBDIR"
+    build_with_pkg_config "$here/consumer.cpp"
     run_consumer "$work/consumer"
+    ;;
+readme)
+    mkdir -p "$work"
+    sed -n '/^```cpp$/,/^```$/{/^```/!p}' "$here/../../README.md" >"$work/readme.cpp"
+    build_with_pkg_config "$work/readme.cpp"
+    "$work/consumer" "$here/../../examples/data/survey-plan.dxf" >"$work/texts"
+    grep -qxF "1284440.00 412694.00 ул. Геодезистов" "$work/texts"
     ;;
 tool)
     "$prefix/bin/velorx" info "$here/drawing.dxf" | grep -q Roads
