@@ -31,19 +31,22 @@ public:
     // The TABLES section (1) and the OBJECTS section (4) hold nothing to count here.
     bool OnSection(int stage) override { return stage == 2 || stage == 3; }
 
-    bool OnLine(const dxf::CLineDXF&) override { return Count("lines"); }
+    bool OnLine(const dxf::CLineDXF& /*line*/) override { return Count("lines"); }
     bool OnArc(const dxf::CArcDXF& arc) override
     {
         return Count(arc.startAngle == arc.endAngle ? "circles" : "arcs");
     }
-    bool OnPolyline(const dxf::CPolylineDXF&) override { return Count("polylines"); }
-    bool OnLWPolyline(const dxf::CLWPolylineDXF&) override { return Count("polylines"); }
-    bool OnSpline(const dxf::CSplineDXF&) override { return Count("splines"); }
-    bool OnPoint(const dxf::CPointDXF&) override { return Count("points"); }
-    bool OnText(const dxf::CTextDXF&) override { return Count("texts"); }
-    bool OnMText(const dxf::CMTextDXF&) override { return Count("texts"); }
-    bool OnHatch(const dxf::CHatchDXF&) override { return Count("hatches"); }
-    bool OnInsert(const dxf::CInsertDXF&) override { return Count("inserts"); }
+    bool OnPolyline(const dxf::CPolylineDXF& /*polyline*/) override { return Count("polylines"); }
+    bool OnLWPolyline(const dxf::CLWPolylineDXF& /*polyline*/) override
+    {
+        return Count("polylines");
+    }
+    bool OnSpline(const dxf::CSplineDXF& /*spline*/) override { return Count("splines"); }
+    bool OnPoint(const dxf::CPointDXF& /*point*/) override { return Count("points"); }
+    bool OnText(const dxf::CTextDXF& /*text*/) override { return Count("texts"); }
+    bool OnMText(const dxf::CMTextDXF& /*text*/) override { return Count("texts"); }
+    bool OnHatch(const dxf::CHatchDXF& /*hatch*/) override { return Count("hatches"); }
+    bool OnInsert(const dxf::CInsertDXF& /*insert*/) override { return Count("inserts"); }
 
     bool OnBlock(const dxf::CBlockDXF& block) override
     {

@@ -18,7 +18,9 @@ class ICommand
 public:
     ICommand() = default;
     ICommand(const ICommand&) = delete;
+    ICommand(ICommand&&) = delete;
     ICommand& operator=(const ICommand&) = delete;
+    ICommand& operator=(ICommand&&) = delete;
     virtual ~ICommand() = default;
 
     /// Adds the subcommand with its arguments to `app` and returns it, owned by `app`. The arguments are

@@ -16,7 +16,7 @@ QByteArray TakeLine(QByteArray& text)
     while (end < text.size() && text.at(end) != '\n' && text.at(end) != '\r') {
         ++end;
     }
-    const QByteArray line = text.left(end).trimmed();
+    QByteArray line = text.left(end).trimmed();
     const bool isPair = text.mid(end, 2) == "\r\n";
     text.remove(0, end + (isPair ? 2 : 1));
     return line;

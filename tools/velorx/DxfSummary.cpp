@@ -99,61 +99,61 @@ QString CDxfSummary::Read(const QString& path, IDXFProgress* bar)
 
 // ---- Entities ---------------------------------------------------------------------------------
 
-bool CDxfSummary::OnPolyline(const CPolylineDXF&)
+bool CDxfSummary::OnPolyline(const CPolylineDXF& /*polyline*/)
 {
     ++drawing[kPolyline];
     return true;
 }
 
-bool CDxfSummary::OnMLine(const CMLineDXF&)
+bool CDxfSummary::OnMLine(const CMLineDXF& /*mline*/)
 {
     ++drawing[kMLine];
     return true;
 }
 
-bool CDxfSummary::OnEllipse(const CEllipseDXF&)
+bool CDxfSummary::OnEllipse(const CEllipseDXF& /*ellipse*/)
 {
     ++drawing[kEllipse];
     return true;
 }
 
-bool CDxfSummary::OnLWPolyline(const CLWPolylineDXF&)
+bool CDxfSummary::OnLWPolyline(const CLWPolylineDXF& /*polyline*/)
 {
     ++drawing[kLWPolyline];
     return true;
 }
 
-bool CDxfSummary::OnSpline(const CSplineDXF&)
+bool CDxfSummary::OnSpline(const CSplineDXF& /*spline*/)
 {
     ++drawing[kSpline];
     return true;
 }
 
-bool CDxfSummary::OnSolid(const CSolidDXF&)
+bool CDxfSummary::OnSolid(const CSolidDXF& /*solid*/)
 {
     ++drawing[kSolid];
     return true;
 }
 
-bool CDxfSummary::OnLine(const CLineDXF&)
+bool CDxfSummary::OnLine(const CLineDXF& /*line*/)
 {
     ++drawing[kLine];
     return true;
 }
 
-bool CDxfSummary::On3DFace(const C3DFaceDXF&)
+bool CDxfSummary::On3DFace(const C3DFaceDXF& /*face*/)
 {
     ++drawing[k3DFace];
     return true;
 }
 
-bool CDxfSummary::OnXLine(const CXLineDXF&)
+bool CDxfSummary::OnXLine(const CXLineDXF& /*line*/)
 {
     ++drawing[kXLine];
     return true;
 }
 
-bool CDxfSummary::OnRay(const CRayDXF&)
+bool CDxfSummary::OnRay(const CRayDXF& /*ray*/)
 {
     ++drawing[kRay];
     return true;
@@ -165,7 +165,7 @@ bool CDxfSummary::OnArc(const CArcDXF& arc)
     return true;
 }
 
-bool CDxfSummary::OnImage(const CImageDXF&)
+bool CDxfSummary::OnImage(const CImageDXF& /*image*/)
 {
     ++drawing[kImage];
     return true;
@@ -178,25 +178,25 @@ bool CDxfSummary::OnInsert(const CInsertDXF& insert)
     return true;
 }
 
-bool CDxfSummary::OnHatch(const CHatchDXF&)
+bool CDxfSummary::OnHatch(const CHatchDXF& /*hatch*/)
 {
     ++drawing[kHatch];
     return true;
 }
 
-bool CDxfSummary::OnMText(const CMTextDXF&)
+bool CDxfSummary::OnMText(const CMTextDXF& /*text*/)
 {
     ++drawing[kMText];
     return true;
 }
 
-bool CDxfSummary::OnText(const CTextDXF&)
+bool CDxfSummary::OnText(const CTextDXF& /*text*/)
 {
     ++drawing[kText];
     return true;
 }
 
-bool CDxfSummary::OnPoint(const CPointDXF&)
+bool CDxfSummary::OnPoint(const CPointDXF& /*point*/)
 {
     ++drawing[kPoint];
     return true;
@@ -240,10 +240,10 @@ bool CDxfSummary::OnLayer(const CLayerDXF& layer)
     return true;
 }
 
-bool CDxfSummary::OnHeader(const CHeaderDXF& delivered)
+bool CDxfSummary::OnHeader(const CHeaderDXF& record)
 {
     ++headers;
-    header = delivered;
+    header = record;
     return true;
 }
 

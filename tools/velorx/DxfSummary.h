@@ -58,33 +58,33 @@ public:
         qint64 elements = 0; ///< Lines that run side by side.
     };
 
-    QString Read(const QString& path, VelorExchange::dxf::IDXFProgress* progress) override;
+    QString Read(const QString& path, VelorExchange::dxf::IDXFProgress* bar) override;
     QString ToText() const override;
     QJsonObject ToJson() const override;
 
-    bool OnPolyline(const VelorExchange::dxf::CPolylineDXF&) override;
-    bool OnMLine(const VelorExchange::dxf::CMLineDXF&) override;
-    bool OnEllipse(const VelorExchange::dxf::CEllipseDXF&) override;
-    bool OnLWPolyline(const VelorExchange::dxf::CLWPolylineDXF&) override;
-    bool OnSpline(const VelorExchange::dxf::CSplineDXF&) override;
-    bool OnSolid(const VelorExchange::dxf::CSolidDXF&) override;
-    bool OnLine(const VelorExchange::dxf::CLineDXF&) override;
-    bool On3DFace(const VelorExchange::dxf::C3DFaceDXF&) override;
-    bool OnXLine(const VelorExchange::dxf::CXLineDXF&) override;
-    bool OnRay(const VelorExchange::dxf::CRayDXF&) override;
+    bool OnPolyline(const VelorExchange::dxf::CPolylineDXF& /*polyline*/) override;
+    bool OnMLine(const VelorExchange::dxf::CMLineDXF& /*mline*/) override;
+    bool OnEllipse(const VelorExchange::dxf::CEllipseDXF& /*ellipse*/) override;
+    bool OnLWPolyline(const VelorExchange::dxf::CLWPolylineDXF& /*polyline*/) override;
+    bool OnSpline(const VelorExchange::dxf::CSplineDXF& /*spline*/) override;
+    bool OnSolid(const VelorExchange::dxf::CSolidDXF& /*solid*/) override;
+    bool OnLine(const VelorExchange::dxf::CLineDXF& /*line*/) override;
+    bool On3DFace(const VelorExchange::dxf::C3DFaceDXF& /*face*/) override;
+    bool OnXLine(const VelorExchange::dxf::CXLineDXF& /*line*/) override;
+    bool OnRay(const VelorExchange::dxf::CRayDXF& /*ray*/) override;
     bool OnArc(const VelorExchange::dxf::CArcDXF& arc) override;
-    bool OnImage(const VelorExchange::dxf::CImageDXF&) override;
+    bool OnImage(const VelorExchange::dxf::CImageDXF& /*image*/) override;
     bool OnInsert(const VelorExchange::dxf::CInsertDXF& insert) override;
-    bool OnHatch(const VelorExchange::dxf::CHatchDXF&) override;
-    bool OnMText(const VelorExchange::dxf::CMTextDXF&) override;
-    bool OnText(const VelorExchange::dxf::CTextDXF&) override;
-    bool OnPoint(const VelorExchange::dxf::CPointDXF&) override;
+    bool OnHatch(const VelorExchange::dxf::CHatchDXF& /*hatch*/) override;
+    bool OnMText(const VelorExchange::dxf::CMTextDXF& /*text*/) override;
+    bool OnText(const VelorExchange::dxf::CTextDXF& /*text*/) override;
+    bool OnPoint(const VelorExchange::dxf::CPointDXF& /*point*/) override;
     bool OnBlock(const VelorExchange::dxf::CBlockDXF& block) override;
     bool OnTextStyle(const VelorExchange::dxf::CTextStyleDXF& style) override;
     bool OnMLineStyle(const VelorExchange::dxf::CMLineStyleDXF& style) override;
     bool OnLineStyle(const VelorExchange::dxf::CLineStyleDXF& style) override;
     bool OnLayer(const VelorExchange::dxf::CLayerDXF& layer) override;
-    bool OnHeader(const VelorExchange::dxf::CHeaderDXF& header) override;
+    bool OnHeader(const VelorExchange::dxf::CHeaderDXF& record) override;
     VelorExchange::dxf::IDXFProgress* GetProgress() override { return progress; }
 
     bool result = false; ///< What `dxf::Read` returned.

@@ -58,7 +58,7 @@ QJsonObject EntityCounts(const CEntityCounts& counts)
 
 QJsonArray PointArray(const VelorExchange::CPoint3D& point)
 {
-    return QJsonArray{point.x, point.y, point.z};
+    return {point.x, point.y, point.z};
 }
 
 QJsonValue Extents(const CDxfSummary& summary)

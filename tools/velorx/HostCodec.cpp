@@ -67,7 +67,7 @@ bool SetCodePage(const std::string& name)
         return false;
     }
     QTextCodec::setCodecForLocale(new CHostCodec(*codePage));
-    return true;
+    return true; // NOLINT(clang-analyzer-cplusplus.NewDeleteLeaks): Qt owns every codec
 }
 
 bool IsCodePage(const std::string& name)

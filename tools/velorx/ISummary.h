@@ -17,7 +17,9 @@ class ISummary
 public:
     ISummary() = default;
     ISummary(const ISummary&) = delete;
+    ISummary(ISummary&&) = delete;
     ISummary& operator=(const ISummary&) = delete;
+    ISummary& operator=(ISummary&&) = delete;
     virtual ~ISummary() = default;
 
     /// Reads the file, which can be opened. `progress` stays the caller's, can be null and outlives the

@@ -18,7 +18,8 @@ bool Print(const QByteArray& text)
 
 void PrintError(const std::string& message)
 {
-    std::fprintf(stderr, "velorx: %s\n", message.c_str());
+    // There is nowhere left to tell that this failed.
+    static_cast<void>(std::fprintf(stderr, "velorx: %s\n", message.c_str()));
 }
 
 } // namespace velorx

@@ -16,9 +16,17 @@ constexpr int kWidth = 40;
 constexpr int kAll = 100;
 constexpr char kWipe[] = "\r\033[K";
 
+// A bar that does not show is no reason to stop.
+void WriteToTerminal(const std::string& text)
+{
+    static_cast<void>(std::fputs(text.c_str(), stderr));
+    static_cast<void>(std::fflush(stderr));
+}
+
 } // namespace
 
-CProgressBar::CProgressBar(Output out, Clock time) : output(std::move(out)), clock(std::move(time))
+CProgressBar::CProgressBar(Output draw, Clock time)
+    : output(std::move(draw)), clock(std::move(time))
 {
 }
 
@@ -64,12 +72,7 @@ bool IsTerminal()
 
 CProgressBar TerminalProgressBar()
 {
-    return CProgressBar(
-        [](const std::string& text) {
-            std::fwrite(text.data(), 1, text.size(), stderr);
-            std::fflush(stderr);
-        },
-        [] { return std::chrono::steady_clock::now(); });
+    return {WriteToTerminal, std::chrono::steady_clock::now};
 }
 
 } // namespace velorx

@@ -19,10 +19,10 @@ public:
     using Clock = std::function<std::chrono::steady_clock::time_point()>;
     using Output = std::function<void(const std::string&)>;
 
-    /// Draws through `output`; `clock` tells the time. Both are called on the thread of the read.
-    CProgressBar(Output output, Clock clock);
+    /// Draws through `draw`; `time` tells the time. Both are called on the thread of the read.
+    CProgressBar(Output draw, Clock time);
 
-    void Begin(const QString& title, qint64 total) override;
+    void Begin(const QString& title, qint64 size) override;
     void SetPosition(qint64 position) override;
     void Finish() override;
 

@@ -13,7 +13,6 @@
 
 namespace {
 
-using velorx::EExit;
 using velorx::ICommand;
 
 constexpr char kFooter[] = "Exit codes: 0 done, 1 a file could not be read or written whole,\n"
