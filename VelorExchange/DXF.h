@@ -7,3 +7,4 @@
 #include "VelorExchange/dxf/read/Read.h"
 #include "VelorExchange/dxf/records/IDXFReader.h"
 #include "VelorExchange/dxf/write/Colour.h"
+#include "VelorExchange/dxf/write/IDXFWriter.h"
