@@ -510,6 +510,15 @@ QByteArray Block(const char* entities)
         + Tags("0 ENDBLK\n0 ENDSEC\n0 EOF\n");
 }
 
+std::string Replayed(const char* entities, const CInsertDXF& insert)
+{
+    CDxfRecorder file;
+    ReadBytes(Block(entities), file);
+    CDxfRecorder replay;
+    const bool result = ParseBlock(file.blocks.at(0), insert, &replay);
+    return result ? replay.text : replay.text + "false\n";
+}
+
 std::string Shortest(double value)
 {
     return QByteArray::number(value, 'g', QLocale::FloatingPointShortest).toStdString();

@@ -69,6 +69,9 @@ QByteArray Entities(const char* entities);
 /// The same with a BLOCKS section that holds `entities` in the block "B".
 QByteArray Block(const char* entities);
 
+/// The recorder's text for what `ParseBlock` makes of `entities`, in the form of `Tags`, read as a block.
+std::string Replayed(const char* entities, const dxf::CInsertDXF& insert);
+
 /// A number in its shortest exact form.
 std::string Shortest(double value);
 
