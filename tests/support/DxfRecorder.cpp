@@ -469,13 +469,13 @@ bool CDxfRecorder::OnBlock(const CBlockDXF& record)
     return Write("OnBlock", record);
 }
 
-bool ReadBytes(const QByteArray& bytes, CDxfRecorder& recorder)
+bool ReadBytes(const QByteArray& bytes, IDXFReader& host)
 {
     QTemporaryFile file;
     if (!file.open() || file.write(bytes) != bytes.size() || !file.flush()) {
         std::abort(); // no test can go on without its input
     }
-    return Read(file.fileName(), &recorder);
+    return Read(file.fileName(), &host);
 }
 
 std::string Recorded(const QByteArray& bytes)

@@ -52,9 +52,8 @@ private:
     bool Write(const char* operation, const Record& record);
 };
 
-/// Reads `bytes` as a drawing file, through a temporary file. Returns the recorder; `result` gets what
-/// `Read` returned.
-bool ReadBytes(const QByteArray& bytes, CDxfRecorder& recorder);
+/// Reads `bytes` as a drawing file, through a temporary file. Returns what `Read` returned.
+bool ReadBytes(const QByteArray& bytes, dxf::IDXFReader& host);
 
 /// The recorder's text for `bytes`, with "false" as a last line where `Read` returned false.
 std::string Recorded(const QByteArray& bytes);
