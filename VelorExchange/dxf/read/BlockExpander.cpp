@@ -18,13 +18,16 @@ bool IsByBlock(const CLineStyleDXF& style)
     return style.name.compare(QLatin1String("BYBLOCK"), Qt::CaseInsensitive) == 0;
 }
 
-// What mirroring adds to the angles of an arc, in degrees.
+// What mirroring adds to the angles of an arc, in degrees. A scale that is no number mirrors nothing.
 double MirrorTurn(double scaleX, double scaleY)
 {
-    if (scaleX >= 0.0) {
-        return scaleY < 0.0 ? -90.0 : 0.0;
+    if (scaleX >= 0.0 && scaleY < 0.0) {
+        return -90.0;
     }
-    return scaleY < 0.0 ? 180.0 : 90.0;
+    if (scaleX < 0.0 && scaleY >= 0.0) {
+        return 90.0;
+    }
+    return scaleX < 0.0 && scaleY < 0.0 ? 180.0 : 0.0;
 }
 
 // What is left of a sum of turns while it is above one, which comes out at a full turn and not at 0.

@@ -58,6 +58,7 @@ class CLast final : public IDXFReader
 public:
     CLineDXF line;
     CInsertDXF insert;
+    CArcDXF arc;
 
     bool OnLine(const CLineDXF& record) override
     {
@@ -67,6 +68,11 @@ public:
     bool OnInsert(const CInsertDXF& record) override
     {
         insert = record;
+        return false;
+    }
+    bool OnArc(const CArcDXF& record) override
+    {
+        arc = record;
         return false;
     }
 };
@@ -425,6 +431,19 @@ TEST(BlockExpander, InheritsTheWholeLineStyleOfAnInsert)
     EXPECT_EQ(style.pattern.size(), 2U);
     nested.lineStyle.name = QStringLiteral("DOT");
     EXPECT_EQ(Last(nested, insert).insert.lineStyle.pattern.size(), 1U);
+}
+
+TEST(BlockExpander, MirrorsNoArcByAScaleThatIsNoNumber)
+{
+    CArcDXF arc;
+    arc.startAngle = 10;
+    arc.endAngle = 20;
+    for (const CInsertDXF& insert : {Insert(0, kNaN, 1), Insert(0, kNaN, -1), Insert(0, -1, kNaN),
+                                     Insert(0, 1, kNaN), Insert(0, kNaN, kNaN)})
+    {
+        EXPECT_EQ(Last(arc, insert).arc.startAngle, 10);
+        EXPECT_EQ(Last(arc, insert).arc.endAngle, 20);
+    }
 }
 
 TEST(BlockExpander, EndsForNumbersThatAreNotFinite)
