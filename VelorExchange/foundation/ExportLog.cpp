@@ -14,13 +14,13 @@ CExportLog::CExportLog(const CExportLog& other) = default;
 CExportLog& CExportLog::operator=(const CExportLog& other) = default;
 CExportLog::~CExportLog() = default;
 
-CExportLog::CExportLog(CExportLog&& other)
+CExportLog::CExportLog(CExportLog&& other) noexcept
     : text(std::move(other.text)), outputFile(std::move(other.outputFile)),
       folderPath(std::move(other.folderPath)), statistics(std::exchange(other.statistics, {}))
 {
 }
 
-CExportLog& CExportLog::operator=(CExportLog&& other)
+CExportLog& CExportLog::operator=(CExportLog&& other) noexcept
 {
     if (this != &other) {
         text = std::move(other.text);
@@ -36,6 +36,7 @@ void CExportLog::AddString(const QString& s)
     AddString(text, s);
 }
 
+// NOLINTNEXTLINE(readability-convert-member-functions-to-static): a member by its interface
 void CExportLog::AddString(QString& out, const QString& s) const
 {
     out += QLatin1Char('\n');

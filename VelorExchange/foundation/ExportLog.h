@@ -19,9 +19,9 @@ class VELOREXCHANGE_EXPORT CExportLog
 public:
     CExportLog();
     CExportLog(const CExportLog& other);
-    CExportLog(CExportLog&& other); ///< Leaves `other` without statistics.
+    CExportLog(CExportLog&& other) noexcept; ///< Leaves `other` without statistics.
     CExportLog& operator=(const CExportLog& other);
-    CExportLog& operator=(CExportLog&& other); ///< Leaves `other` without statistics.
+    CExportLog& operator=(CExportLog&& other) noexcept; ///< Leaves `other` without statistics.
     ~CExportLog();
 
     /// Appends a line with a rule of 59 dashes under it to the log text.

@@ -20,7 +20,9 @@ public:
     /// Takes code and name from `file` at once; what later happens to the file changes nothing here.
     explicit FileError(const QFile& file);
     FileError(const FileError& other) = default;
+    FileError(FileError&& other) = default;
     FileError& operator=(const FileError& other) = default;
+    FileError& operator=(FileError&& other) = default;
     ~FileError() override;
 
     /// Always "Unknown exception".

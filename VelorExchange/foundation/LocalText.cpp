@@ -179,7 +179,7 @@ bool CTextDecoder::TrimByTable(const char*& begin, const char*& end) const
     return true;
 }
 
-bool CTextDecoder::TrimUtf8(const char*& begin, const char*& end) const
+bool CTextDecoder::TrimUtf8(const char*& begin, const char*& end)
 {
     const char* first = begin;
     const char* last = end;

@@ -52,7 +52,7 @@ private:
     void FillPlainBytes();
     bool IsAsciiTransparent() const;
     bool TrimByTable(const char*& begin, const char*& end) const;
-    bool TrimUtf8(const char*& begin, const char*& end) const;
+    static bool TrimUtf8(const char*& begin, const char*& end);
     bool TrimOther(const char*& begin, const char*& end) const;
 
     QTextCodec* codec;

@@ -51,7 +51,8 @@ CPoint3D Transformed(const CPoint3D& p, const CInsertDXF& insert, const CPoint3D
             insert.scaleZ * p.z + at.z};
 }
 
-// Only one loop is built at a time, so the last stage of the class can be sealed here.
+// Sealed here, so that it needs no virtual destructor.
+// NOLINTNEXTLINE(cppcoreguidelines-virtual-class-destructor)
 class CHatchCollector final : public HatchReaderWrapper
 {
 public:

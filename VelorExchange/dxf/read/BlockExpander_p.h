@@ -13,8 +13,8 @@ namespace VelorExchange::dxf {
 class CBlockExpander final
 {
 public:
-    /// `target` is not owned and never null; the insert is copied.
-    CBlockExpander(IDXFReader* target, const CInsertDXF& insert);
+    /// `reader` is not owned and never null; `reference` is copied.
+    CBlockExpander(IDXFReader* reader, const CInsertDXF& reference);
 
     void operator()(const CPointDXF& point);
     void operator()(const CLineDXF& line);
@@ -33,9 +33,9 @@ public:
     void operator()(const CInsertDXF& nested);
 
     // These do not come out of a block.
-    void operator()(const CImageDXF&) { }
-    void operator()(const CAttDefDXF&) { }
-    void operator()(const CEllipseDXF&) { }
+    void operator()(const CImageDXF& /*record*/) { }
+    void operator()(const CAttDefDXF& /*record*/) { }
+    void operator()(const CEllipseDXF& /*record*/) { }
 
 private:
     CPoint3D Moved(const CPoint3D& p) const;
@@ -57,8 +57,8 @@ private:
 class HatchReaderWrapper : public IDXFReader
 {
 public:
-    /// `hatch` is not owned and outlives the wrapper.
-    explicit HatchReaderWrapper(CHatchDXF* hatch);
+    /// `result` is not owned and outlives the wrapper.
+    explicit HatchReaderWrapper(CHatchDXF* result);
 
     bool OnLWPolyline(const CLWPolylineDXF& polyline) override;
     bool OnSpline(const CSplineDXF& spline) override;

@@ -15,17 +15,17 @@ constexpr int kNoGate = 0;
 struct CDXFReaderImpl::CSection
 {
     const char* name;
-    int gate; // what the host is asked with
     EOutcome (CDXFReaderImpl::*read)();
+    int gate; // what the host is asked with
     bool reportsWhenSkipped;
 };
 
 const CDXFReaderImpl::CSection CDXFReaderImpl::kSections[] = {
-    {"HEADER", kNoGate, &CDXFReaderImpl::ReadHeader, false},
-    {"TABLES", 1, &CDXFReaderImpl::ReadTables, false},
-    {"BLOCKS", 2, &CDXFReaderImpl::ReadBlocks, false},
-    {"ENTITIES", 3, &CDXFReaderImpl::ReadEntities, true},
-    {"OBJECTS", 4, &CDXFReaderImpl::ReadObjects, false},
+    {"HEADER", &CDXFReaderImpl::ReadHeader, kNoGate, false},
+    {"TABLES", &CDXFReaderImpl::ReadTables, 1, false},
+    {"BLOCKS", &CDXFReaderImpl::ReadBlocks, 2, false},
+    {"ENTITIES", &CDXFReaderImpl::ReadEntities, 3, true},
+    {"OBJECTS", &CDXFReaderImpl::ReadObjects, 4, false},
 };
 
 CDXFReaderImpl::CDXFReaderImpl(QIODevice& device, IDXFReader* host)

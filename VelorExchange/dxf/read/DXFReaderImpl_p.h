@@ -31,11 +31,10 @@ class CHatchBoundary;
 class CDXFReaderImpl final
 {
 public:
-    /// `device` is open for reading, `callback` not null; both outlive the reader.
-    CDXFReaderImpl(QIODevice& device, IDXFReader* callback);
+    /// `device` is open for reading, `host` not null; both outlive the reader.
+    CDXFReaderImpl(QIODevice& device, IDXFReader* host);
     ~CDXFReaderImpl();
-    CDXFReaderImpl(const CDXFReaderImpl&) = delete;
-    CDXFReaderImpl& operator=(const CDXFReaderImpl&) = delete;
+    Q_DISABLE_COPY_MOVE(CDXFReaderImpl)
 
     /// Reads all sections. False if the file ends inside a block.
     bool ReadSections();

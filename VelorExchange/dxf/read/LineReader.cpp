@@ -11,7 +11,7 @@ namespace VelorExchange::dxf {
 
 namespace {
 
-constexpr std::ptrdiff_t kBlock = 256 * 1024;
+constexpr std::ptrdiff_t kBlock = 262144;
 constexpr std::ptrdiff_t kSlack = 64; // zero bytes behind the last one, for looks ahead
 
 std::unique_ptr<char[]> NewBuffer(std::ptrdiff_t capacity)

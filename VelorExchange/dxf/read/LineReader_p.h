@@ -34,7 +34,7 @@ public:
     static constexpr std::ptrdiff_t kLongestLine = 999;
 
     /// The device is open for reading, random access, and outlives the reader.
-    explicit CLineReader(QIODevice& device);
+    explicit CLineReader(QIODevice& source);
 
     /// Where the next line starts, in bytes from the start of the device.
     qint64 Position() const { return bufferPosition + (cursor - buffer.get()); }

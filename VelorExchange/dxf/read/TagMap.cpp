@@ -13,7 +13,8 @@ constexpr char kJoint = ';';
 
 bool IsIn(int code, std::initializer_list<int> codes)
 {
-    for (const int other : codes) {
+    // Written out, since the library's search is not inlined for lists this short.
+    for (const int other : codes) { // NOLINT(readability-use-anyofallof)
         if (code == other) {
             return true;
         }
@@ -94,7 +95,7 @@ CDXFTag CDXFTagMap::ReadChain(CDXFTag tag, CChain chain)
 {
     Store(tag);
     bool consumed = true;
-    for (auto code = chain.begin() + 1; code != chain.end(); ++code) {
+    for (const auto* code = chain.begin() + 1; code != chain.end(); ++code) {
         if (consumed) {
             tag = input.ReadTag();
         }

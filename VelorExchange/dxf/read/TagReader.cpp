@@ -39,12 +39,12 @@ CTagReader::CTagReader(QIODevice& device)
 {
 }
 
-void CTagReader::SetVersion(int number)
+void CTagReader::SetVersion(int drawingVersion)
 {
-    if (version == number) {
+    if (version == drawingVersion) {
         return;
     }
-    version = number;
+    version = drawingVersion;
     QTextCodec* const codec = CodecOf(version);
     fixed = codec != nullptr ? std::make_unique<CTextDecoder>(codec) : nullptr;
     decoder = fixed ? fixed.get() : &local;

@@ -24,7 +24,7 @@ public:
 
     /// Decides how text is decoded from the next line on: IBM866 for 1006, UTF-8 from 1019 on, and the
     /// local codec otherwise.
-    void SetVersion(int version);
+    void SetVersion(int drawingVersion);
 
     bool AtEnd() { return lines.AtEnd(); }
     qint64 Position() const { return lines.Position(); }

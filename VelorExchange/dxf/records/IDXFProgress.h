@@ -22,9 +22,6 @@ public:
     virtual void Finish() = 0;
 
 protected:
-    IDXFProgress() = default;
-    IDXFProgress(const IDXFProgress&) = default;
-    IDXFProgress& operator=(const IDXFProgress&) = default;
     ~IDXFProgress() = default;
 };
 

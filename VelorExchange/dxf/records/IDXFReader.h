@@ -25,82 +25,79 @@ public:
     virtual bool OnSection(int /*stage*/) { return true; }
 
     /// POLYLINE.
-    virtual bool OnPolyline(const CPolylineDXF&) { return true; }
+    virtual bool OnPolyline(const CPolylineDXF& /*record*/) { return true; }
 
     /// MLINE.
-    virtual bool OnMLine(const CMLineDXF&) { return true; }
+    virtual bool OnMLine(const CMLineDXF& /*record*/) { return true; }
 
     /// ELLIPSE, parameters in radians.
-    virtual bool OnEllipse(const CEllipseDXF&) { return true; }
+    virtual bool OnEllipse(const CEllipseDXF& /*record*/) { return true; }
 
     /// LWPOLYLINE.
-    virtual bool OnLWPolyline(const CLWPolylineDXF&) { return true; }
+    virtual bool OnLWPolyline(const CLWPolylineDXF& /*record*/) { return true; }
 
     /// SPLINE.
-    virtual bool OnSpline(const CSplineDXF&) { return true; }
+    virtual bool OnSpline(const CSplineDXF& /*record*/) { return true; }
 
     /// SOLID.
-    virtual bool OnSolid(const CSolidDXF&) { return true; }
+    virtual bool OnSolid(const CSolidDXF& /*record*/) { return true; }
 
     /// LINE.
-    virtual bool OnLine(const CLineDXF&) { return true; }
+    virtual bool OnLine(const CLineDXF& /*record*/) { return true; }
 
     /// 3DFACE.
-    virtual bool On3DFace(const C3DFaceDXF&) { return true; }
+    virtual bool On3DFace(const C3DFaceDXF& /*record*/) { return true; }
 
     /// XLINE.
-    virtual bool OnXLine(const CXLineDXF&) { return true; }
+    virtual bool OnXLine(const CXLineDXF& /*record*/) { return true; }
 
     /// RAY.
-    virtual bool OnRay(const CRayDXF&) { return true; }
+    virtual bool OnRay(const CRayDXF& /*record*/) { return true; }
 
     /// ARC and CIRCLE, angles in degrees; those of a circle are equal.
-    virtual bool OnArc(const CArcDXF&) { return true; }
+    virtual bool OnArc(const CArcDXF& /*record*/) { return true; }
 
     /// IMAGE, when its IMAGEDEF is met in the OBJECTS section.
-    virtual bool OnImage(const CImageDXF&) { return true; }
+    virtual bool OnImage(const CImageDXF& /*record*/) { return true; }
 
     /// INSERT with its attributes, rotation in degrees; `ParseBlock` expands it.
-    virtual bool OnInsert(const CInsertDXF&) { return true; }
+    virtual bool OnInsert(const CInsertDXF& /*record*/) { return true; }
 
     /// HATCH, pattern angle in degrees.
-    virtual bool OnHatch(const CHatchDXF&) { return true; }
+    virtual bool OnHatch(const CHatchDXF& /*record*/) { return true; }
 
     /// MTEXT.
-    virtual bool OnMText(const CMTextDXF&) { return true; }
+    virtual bool OnMText(const CMTextDXF& /*record*/) { return true; }
 
     /// TEXT.
-    virtual bool OnText(const CTextDXF&) { return true; }
+    virtual bool OnText(const CTextDXF& /*record*/) { return true; }
 
     /// POINT.
-    virtual bool OnPoint(const CPointDXF&) { return true; }
+    virtual bool OnPoint(const CPointDXF& /*record*/) { return true; }
 
     /// A finished block, with its entities; they are not delivered otherwise.
-    virtual bool OnBlock(const CBlockDXF&) { return true; }
+    virtual bool OnBlock(const CBlockDXF& /*record*/) { return true; }
 
     /// STYLE.
-    virtual bool OnTextStyle(const CTextStyleDXF&) { return true; }
+    virtual bool OnTextStyle(const CTextStyleDXF& /*record*/) { return true; }
 
     /// MLINESTYLE.
-    virtual bool OnMLineStyle(const CMLineStyleDXF&) { return true; }
+    virtual bool OnMLineStyle(const CMLineStyleDXF& /*record*/) { return true; }
 
     /// LTYPE, its name alone.
-    virtual bool OnLineStyle(const CLineStyleDXF&) { return true; }
+    virtual bool OnLineStyle(const CLineStyleDXF& /*record*/) { return true; }
 
     /// LAYER.
-    virtual bool OnLayer(const CLayerDXF&) { return true; }
+    virtual bool OnLayer(const CLayerDXF& /*record*/) { return true; }
 
     /// The end of the HEADER section.
-    virtual bool OnHeader(const CHeaderDXF&) { return true; }
+    virtual bool OnHeader(const CHeaderDXF& /*record*/) { return true; }
 
     /// Where to report progress, or null for nowhere. Asked anew at each report; it must be null
     /// always or never throughout one read.
     virtual IDXFProgress* GetProgress() { return nullptr; }
 
 protected:
-    IDXFReader() = default;
-    IDXFReader(const IDXFReader&) = default;
-    IDXFReader& operator=(const IDXFReader&) = default;
     ~IDXFReader() = default;
 };
 
