@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "tests/support/DxfRecorder.h"
 
+#include <stdexcept>
+
 using namespace VelorExchange::test;
 using namespace VelorExchange::dxf;
 
@@ -126,6 +128,18 @@ TEST(BlocksSection, SkipsBlocksThatTheHostRefuses)
     EXPECT_TRUE(ReadBytes(
         Blocks("0 BLOCK\n2 A\n0 POINT\n0 ENDBLK\n0 ENDSEC\n") + Entities("0 INSERT\n2 A\n"), host));
     EXPECT_EQ(host.text, "Insert name=\"A\"\n");
+}
+
+TEST(BlocksSection, LetsExceptionsOfTheHostThrough)
+{
+    class CThrowing final : public IDXFReader
+    {
+    public:
+        bool OnBlock(const CBlockDXF&) override { throw std::runtime_error("host"); }
+    };
+    CThrowing host;
+    EXPECT_THROW(ReadBytes(Blocks("0 BLOCK\n2 A\n0 POINT\n0 ENDBLK\n") + kEnd, host),
+                 std::runtime_error);
 }
 
 TEST(BlocksSection, ManyOpenBlocksAreNotKept)

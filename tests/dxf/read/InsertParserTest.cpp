@@ -27,6 +27,11 @@ TEST(InsertParser, ScalesByOneWhereItTellsNoScale)
     EXPECT_EQ(Insert("41\n42\n43 x\n"), "Insert scaleX=0 scaleY=0 scaleZ=0\n");
 }
 
+TEST(InsertParser, PassesOverRowsAndColumns)
+{
+    EXPECT_EQ(Insert("2 WELL\n70 2\n71 3\n44 5\n45 6\n"), "Insert name=\"WELL\"\n");
+}
+
 TEST(InsertParser, ConvertsItsPoint)
 {
     EXPECT_EQ(Insert("10 1\n20 2\n30 3\n210 0\n220 0\n230 -1\n"), "Insert point=(-1 2 -3)\n");

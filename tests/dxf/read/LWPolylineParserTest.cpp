@@ -49,8 +49,8 @@ TEST(LWPolylineParser, PutsZeroForALeftOutOrdinate)
 
 TEST(LWPolylineParser, PassesOverHeightsOfVertices)
 {
-    EXPECT_EQ(LWPolyline("90 1\n43 1\n10 1\n20 2\n30 9\n"),
-              "LWPolyline vertices=[(1 2 0)] width=1\n");
+    EXPECT_EQ(LWPolyline("90 2\n43 1\n10 1\n20 2\n30 9\n42 0.5\n10 3\n20 4\n42 0.25\n"),
+              "LWPolyline vertices=[(1 2 0)^0.5 (3 4 0)^0.25] width=1\n");
 }
 
 TEST(LWPolylineParser, DeliversNoVerticesWhereTheCountDisagrees)
