@@ -8,3 +8,4 @@
 #include "VelorExchange/dxf/records/IDXFReader.h"
 #include "VelorExchange/dxf/write/Colour.h"
 #include "VelorExchange/dxf/write/IDXFWriter.h"
+#include "VelorExchange/dxf/write/StyleFiles.h"
