@@ -28,13 +28,13 @@ public:
     class VELOREXCHANGE_EXPORT IContext
     {
     public:
-        virtual ~IContext();
+        virtual ~IContext() = default;
 
         /// Called for each coordinate pair when it is written, and for the bounds of the header.
         virtual CPoint2D TransformPoint(const CPoint2D& point) = 0;
     };
 
-    virtual ~IMIFWriter();
+    virtual ~IMIFWriter() = default;
 
     /// Forgets all that was added. `log` receives the counts and the failures; it isn't owned, may be
     /// null, and has to outlive the writer or the next `Init`.

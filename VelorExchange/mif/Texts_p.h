@@ -18,4 +18,24 @@ inline QString WriteError()
     return QStringLiteral("Ошибка записи файла ");
 }
 
+inline QString Texts()
+{
+    return QStringLiteral("тексты");
+}
+
+inline QString Polylines()
+{
+    return QStringLiteral("полилинии");
+}
+
+inline QString Regions()
+{
+    return QStringLiteral("регионы");
+}
+
+inline QString Points()
+{
+    return QStringLiteral("точки");
+}
+
 } // namespace VelorExchange::mif::texts

@@ -216,6 +216,7 @@ void CMifRecorder::Finish()
 void CMifPair::Write(const char* extension, const QByteArray& bytes) const
 {
     QFile file(Path() + QLatin1Char('.') + QLatin1String(extension));
+    file.remove(); // cutting an old file short waits for the disk
     if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size()) {
         throw std::runtime_error("a test file can't be written");
     }
