@@ -105,6 +105,7 @@ bool CTextDecoder::FillTable()
     if (text.size() != static_cast<int>(bytes.size())) {
         return false;
     }
+    singleByte = true;
     for (std::size_t byte = 0; byte < table.size(); ++byte) {
         const QChar c = text.at(static_cast<int>(byte));
         if (byte < 0x80 && c.unicode() != byte) {

@@ -26,6 +26,9 @@ public:
     /// The codec this decoder stands for.
     QTextCodec* Codec() const { return codec; }
 
+    /// True if one byte is one character.
+    bool IsSingleByte() const { return singleByte; }
+
     /// All the bytes, NUL included.
     QString Decode(const char* data, std::size_t size) const;
 
@@ -57,6 +60,7 @@ private:
 
     QTextCodec* codec;
     EKind kind = EKind::Other;
+    bool singleByte = false;
     bool asciiTransparent = false;
     std::array<char16_t, 256> table{}; // what each byte means, for EKind::Table
     std::array<bool, 256> space{}; // whether that is white space

@@ -99,3 +99,18 @@ TEST(LocalText, LocalFollowsTheProcess)
     EXPECT_EQ(CTextDecoder::Local().Decode("\xC0", 1), QString(QChar(0x0410)));
     QTextCodec::setCodecForLocale(before);
 }
+
+TEST(LocalText, KnowsTheCodecsOfOneByteACharacter)
+{
+    const auto isSingleByte = [](const char* name) {
+        return CTextDecoder(QTextCodec::codecForName(name)).IsSingleByte();
+    };
+    EXPECT_TRUE(isSingleByte("windows-1251"));
+    EXPECT_TRUE(isSingleByte("IBM866"));
+    EXPECT_TRUE(isSingleByte("KOI8-R"));
+    EXPECT_TRUE(isSingleByte("ISO-8859-1"));
+    EXPECT_FALSE(isSingleByte("UTF-8"));
+    EXPECT_FALSE(isSingleByte("UTF-16"));
+    EXPECT_FALSE(isSingleByte("Shift_JIS"));
+    EXPECT_FALSE(isSingleByte("GB18030"));
+}
