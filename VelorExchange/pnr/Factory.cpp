@@ -3,11 +3,14 @@
 
 #include "VelorExchange/pnr/ByteCursor_p.h"
 #include "VelorExchange/pnr/PnrBinReader_p.h"
+#include "VelorExchange/pnr/PnrBinWriterImpl_p.h"
+#include "VelorExchange/pnr/PnrTxtWriterImpl_p.h"
 #include "VelorExchange/pnr/SxfLayout_p.h"
 
 #include <QFile>
 
 #include <array>
+#include <utility>
 
 namespace VelorExchange::pnr {
 
@@ -19,6 +22,14 @@ IPnrReader* CreateReader(bool text, IPnrReader::IContext* context)
 void DeleteReader(IPnrReader* reader)
 {
     delete reader;
+}
+
+IPnrWriter* CreatePnrWriter(bool text, bool second, std::shared_ptr<IPnrWriter::IContext> context)
+{
+    if (text) {
+        return new CPnrTxtWriterImpl(second, std::move(context));
+    }
+    return new CPnrBinWriterImpl(second, std::move(context));
 }
 
 void DeletePnrWriter(IPnrWriter* writer)

@@ -81,21 +81,17 @@ char CSxfText::EncodeCharacter(QChar c) const
     return AskCodec(c); // it may know a likeness of a character that none of its bytes stands for
 }
 
-void CSxfText::Append(std::vector<char>& out, const QString& text)
+void CSxfText::Encode(const QString& text, std::size_t size, char* out)
 {
     Refresh();
-    const std::size_t before = out.size();
-    out.resize(before + static_cast<std::size_t>(text.size()));
-    std::transform(text.begin(), text.end(), out.begin() + static_cast<std::ptrdiff_t>(before),
+    std::transform(text.begin(), text.begin() + static_cast<std::ptrdiff_t>(size), out,
                    [this](QChar c) { return EncodeCharacter(c); });
 }
 
 QByteArray CSxfText::Encode(const QString& text)
 {
-    Refresh();
     QByteArray bytes(text.size(), Qt::Uninitialized);
-    std::transform(text.begin(), text.end(), bytes.begin(),
-                   [this](QChar c) { return EncodeCharacter(c); });
+    Encode(text, static_cast<std::size_t>(text.size()), bytes.data());
     return bytes;
 }
 

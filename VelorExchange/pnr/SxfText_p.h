@@ -24,10 +24,11 @@ public:
     /// All the bytes, zeros included.
     QString Decode(const char* data, std::size_t size);
 
-    /// Appends exactly one byte for each `QChar`; "?" for what the codec lacks.
-    void Append(std::vector<char>& out, const QString& text);
+    /// Writes exactly one byte for each of the first `size` characters at `out`; "?" for what the
+    /// codec lacks.
+    void Encode(const QString& text, std::size_t size, char* out);
 
-    /// The same as a byte array.
+    /// The whole text as a byte array.
     QByteArray Encode(const QString& text);
 
 private:

@@ -59,11 +59,11 @@ TEST(SxfText, EncodesEveryCharacterOfThePlaneAsQt)
     }
 }
 
-TEST(SxfText, AppendsToBytes)
+TEST(SxfText, EncodesAsManyCharactersAsTold)
 {
     const CLocalCodec codec("UTF-8");
     CSxfText text;
-    std::vector<char> bytes = {'<'};
-    text.Append(bytes, QStringLiteral("аб"));
-    EXPECT_EQ(bytes, (std::vector<char>{'<', '\xE0', '\xE1'}));
+    std::vector<char> bytes(3, '<');
+    text.Encode(QStringLiteral("абв"), 2, bytes.data());
+    EXPECT_EQ(bytes, (std::vector<char>{'\xE0', '\xE1', '<'}));
 }
