@@ -4,6 +4,7 @@
 #include "VelorExchange/pnr/ByteCursor_p.h"
 #include "VelorExchange/pnr/PnrBinReader_p.h"
 #include "VelorExchange/pnr/PnrBinWriterImpl_p.h"
+#include "VelorExchange/pnr/PnrTxtReader_p.h"
 #include "VelorExchange/pnr/PnrTxtWriterImpl_p.h"
 #include "VelorExchange/pnr/SxfLayout_p.h"
 
@@ -16,7 +17,10 @@ namespace VelorExchange::pnr {
 
 IPnrReader* CreateReader(bool text, IPnrReader::IContext* context)
 {
-    return text ? nullptr : new CPnrBinReader(context);
+    if (text) {
+        return new CPnrTxtReader(context);
+    }
+    return new CPnrBinReader(context);
 }
 
 void DeleteReader(IPnrReader* reader)

@@ -1,0 +1,149 @@
+// SPDX-License-Identifier: MIT
+#include "VelorExchange/pnr/PnrTxtReader_p.h"
+
+#include "VelorExchange/pnr/Texts_p.h"
+
+#include <cstring>
+#include <memory>
+
+namespace VelorExchange::pnr {
+
+namespace {
+
+constexpr std::size_t kWordSize = 4;
+
+// `word` is a point and three small letters; no letter beyond ASCII is one of these in either case.
+bool StartsWith(const char* p, const char* word)
+{
+    constexpr int kToSmall = 0x20;
+    return p[0] == '.' && (p[1] | kToSmall) == word[1] && (p[2] | kToSmall) == word[2]
+        && (p[3] | kToSmall) == word[3];
+}
+
+// Calls `test` at every point of the line that has room for a word; true once it is.
+template <class Test>
+bool AnyPoint(const CTxtSpan& line, Test test)
+{
+    const char* p = line.begin();
+    while (static_cast<std::size_t>(line.end() - p) >= kWordSize) {
+        const auto room = static_cast<std::size_t>(line.end() - p) - kWordSize + 1;
+        p = static_cast<const char*>(std::memchr(p, '.', room));
+        if (!p) {
+            return false;
+        }
+        if (test(p)) {
+            return true;
+        }
+        ++p;
+    }
+    return false;
+}
+
+bool Contains(const CTxtSpan& line, const char* word)
+{
+    return AnyPoint(line, [word](const char* p) { return StartsWith(p, word); });
+}
+
+bool EndsBlock(const CTxtSpan& line)
+{
+    return AnyPoint(line,
+                    [](const char* p) { return StartsWith(p, ".obj") || StartsWith(p, ".end"); });
+}
+
+} // namespace
+
+bool CPnrTxtReader::Fail(const wchar_t* message)
+{
+    lastError = message;
+    return false;
+}
+
+bool CPnrTxtReader::Open(const QString& fileName)
+{
+    return lines.Open(fileName) || Fail(texts::kCannotOpen);
+}
+
+bool CPnrTxtReader::Read(const QString& fileName)
+{
+    declared = 0;
+    counted = 0;
+    bool result = Open(fileName) && ReadDeclared() && ReadObjects();
+    if (counted != declared) {
+        result = Fail(texts::kWrongFormat);
+    }
+    lines.Close();
+    return result;
+}
+
+// Nothing in front of the line with the count is looked at.
+bool CPnrTxtReader::ReadDeclared()
+{
+    CTxtSpan line;
+    while (lines.Next(line)) {
+        if (Contains(line, ".dat")) {
+            const CTxtBlock numbers(lines);
+            declared = numbers.Int(CTxtTokens::Last(line));
+            return declared >= 0 || Fail(texts::kWrongFormat);
+        }
+    }
+    return true;
+}
+
+bool CPnrTxtReader::ReadObjects()
+{
+    CTxtBlock block(lines);
+    CTxtSpan line;
+    bool more = lines.Next(line);
+    while (more) {
+        if (Contains(line, ".obj")) {
+            ++counted;
+            block.Begin(line);
+            while ((more = lines.Next(line)) && !EndsBlock(line)) {
+                block.Add(line);
+            }
+            if (!ParseBlock(block)) {
+                return Fail(texts::kWrongFormat);
+            }
+            lines.Release();
+        } else if (line.size == kWordSize && StartsWith(line.data, ".end")) {
+            return true;
+        } else {
+            more = lines.Next(line);
+        }
+    }
+    return true;
+}
+
+bool CPnrTxtReader::ParseBlock(const CTxtBlock& block)
+{
+    const CTxtObjectParser parser(block);
+    const CTxtSpan kind = CTxtTokens::Last(block.Line(0));
+    if (kind == "LIN") {
+        return Deliver(parser, &IContext::AddLine);
+    }
+    if (kind == "SQR") {
+        return Deliver(parser, &IContext::AddSquare);
+    }
+    if (kind == "DOT" || kind == "VEC") {
+        return Deliver(parser, &IContext::AddPoint);
+    }
+    if (kind == "TIT" || kind == "MIX") {
+        return Deliver(parser, &IContext::AddText);
+    }
+    return false;
+}
+
+template <class Object>
+bool CPnrTxtReader::Deliver(const CTxtObjectParser& parser, void (IContext::*add)(Object*))
+{
+    const auto object = std::make_unique<Object>();
+    if (!parser.Read(*object)) {
+        return false;
+    }
+    if (context) {
+        (context->*add)(object.get());
+    }
+    return true;
+}
+
+} // namespace VelorExchange::pnr
