@@ -138,7 +138,7 @@ CPnrResult ReadPnrFile(const QString& fileName, bool text)
 
 CPnrResult ReadPnr(const QByteArray& bytes, bool text)
 {
-    const QTemporaryDir folder;
+    static const QTemporaryDir folder; // making one a file costs more than reading it
     const QString fileName =
         folder.filePath(text ? QStringLiteral("map.txt") : QStringLiteral("map.sxf"));
     QFile file(fileName);
