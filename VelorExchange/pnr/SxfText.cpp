@@ -4,6 +4,7 @@
 #include <QTextCodec>
 
 #include <algorithm>
+#include <numeric>
 
 namespace VelorExchange::pnr {
 
@@ -39,15 +40,24 @@ void CSxfText::Refresh()
 // ASCII is not itself in every code page: those of DOS move a few control characters.
 void CSxfText::FillEncodings()
 {
+    QString ascii;
     for (std::size_t code = 0; code < asciiEncodings.size(); ++code) {
-        asciiEncodings[code] = AskCodec(QChar(static_cast<ushort>(code)));
+        ascii += QChar(static_cast<ushort>(code));
     }
+    const QByteArray encoded = decoder.Codec()->fromUnicode(ascii);
+    for (std::size_t code = 0; code < asciiEncodings.size(); ++code) {
+        const int index = static_cast<int>(code);
+        asciiEncodings[code] =
+            encoded.size() == ascii.size() ? encoded.at(index) : AskCodec(ascii.at(index));
+    }
+    std::array<char, 256> bytes{};
+    std::iota(bytes.begin(), bytes.end(), '\0');
+    const QString meanings = decoder.Decode(bytes.data(), bytes.size());
     encodings.clear();
-    for (int byte = 0; byte <= 0xFF; ++byte) {
-        const char c = static_cast<char>(byte);
-        const QChar meaning = decoder.Decode(&c, 1).at(0);
-        if (meaning.unicode() >= asciiEncodings.size() && meaning.unicode() != kReplacement) {
-            encodings.emplace_back(meaning.unicode(), c);
+    for (std::size_t byte = 0; byte < bytes.size(); ++byte) {
+        const char16_t meaning = meanings.at(static_cast<int>(byte)).unicode();
+        if (meaning >= asciiEncodings.size() && meaning != kReplacement) {
+            encodings.emplace_back(meaning, bytes[byte]);
         }
     }
     std::stable_sort(encodings.begin(), encodings.end(),

@@ -142,6 +142,7 @@ CPnrResult ReadPnr(const QByteArray& bytes, bool text)
     const QString fileName =
         folder.filePath(text ? QStringLiteral("map.txt") : QStringLiteral("map.sxf"));
     QFile file(fileName);
+    file.remove(); // writing over a file waits for the disk
     if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size()) {
         return {};
     }
