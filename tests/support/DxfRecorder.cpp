@@ -358,6 +358,22 @@ CLine LineOf(const char* name, const CBlockDXF& r)
 
 } // namespace
 
+void CProgressRecorder::Begin(const QString& title, qint64 total)
+{
+    text += "Begin \"" + title.toStdString() + "\" " + std::to_string(total) + '\n';
+}
+
+void CProgressRecorder::SetPosition(qint64 position)
+{
+    positions.push_back(position);
+    text += "Position " + std::to_string(position) + '\n';
+}
+
+void CProgressRecorder::Finish()
+{
+    text += "Finish\n";
+}
+
 template <class Record>
 bool CDxfRecorder::Write(const char* operation, const Record& record)
 {

@@ -9,6 +9,18 @@
 
 namespace VelorExchange::test {
 
+/// Writes every report of progress as one line.
+class CProgressRecorder final : public dxf::IDXFProgress
+{
+public:
+    std::string text; ///< All lines.
+    std::vector<qint64> positions; ///< What SetPosition got.
+
+    void Begin(const QString& title, qint64 total) override;
+    void SetPosition(qint64 position) override;
+    void Finish() override;
+};
+
 /// Writes every call it gets as one line of text: the operation's name without "On", then the fields
 /// that are not at their default, numbers in their shortest exact form.
 class CDxfRecorder final : public dxf::IDXFReader
