@@ -210,7 +210,8 @@ inline CTextSpan CTagReader::TakeText()
             return MakeSpan(begin - lines.Base(), CTextSpan::Buffer, line.end - begin);
         }
     }
-    return line.begin != nullptr ? TakeUncommonText(line) : TakeAnyText();
+    // With its end, which half a character before it may take along.
+    return line.begin != nullptr ? TakeUncommonText({line.begin, lines.Cursor()}) : TakeAnyText();
 }
 
 } // namespace VelorExchange::dxf
