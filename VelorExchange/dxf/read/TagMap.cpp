@@ -1,10 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "VelorExchange/dxf/read/TagMap_p.h"
 
-#include "VelorExchange/foundation/NumberParser_p.h"
-
-#include <algorithm>
-
 namespace VelorExchange::dxf {
 
 namespace {
@@ -20,19 +16,6 @@ bool IsIn(int code, std::initializer_list<int> codes)
         }
     }
     return false;
-}
-
-// Calls `take` for each part of `bytes` between the joints, empty ones left out.
-template <class Take>
-void ForEachPart(std::string_view bytes, Take take)
-{
-    while (!bytes.empty()) {
-        const std::size_t size = std::min(bytes.find(kJoint), bytes.size());
-        if (size > 0) {
-            take(bytes.substr(0, size));
-        }
-        bytes.remove_prefix(std::min(size + 1, bytes.size()));
-    }
 }
 
 } // namespace
@@ -200,8 +183,7 @@ QStringList CDXFTagMap::Split(int code) const
     {
         const CStored& value = values[place];
         for (quint32 i = 0; i < value.count; ++i) {
-            ForEachPart(input.Bytes(value.span),
-                        [&](std::string_view part) { items.append(input.Text(value.span, part)); });
+            items += input.Text(value.span).split(QLatin1Char(kJoint), Qt::SkipEmptyParts);
         }
     }
     return items;
@@ -221,11 +203,10 @@ void CDXFTagMap::SplitDoubles(int code, std::vector<double>& items) const
         } else if (input.ToPlainDouble(value.span, number)) {
             items.push_back(number);
         } else {
-            ForEachPart(input.Bytes(value.span), [&](std::string_view part) {
-                items.push_back(ParsePlainDouble(part.data(), part.size(), number)
-                                    ? number
-                                    : input.Text(value.span, part).toDouble());
-            });
+            for (const QString& part :
+                 input.Text(value.span).split(QLatin1Char(kJoint), Qt::SkipEmptyParts)) {
+                items.push_back(part.toDouble());
+            }
         }
     }
 }

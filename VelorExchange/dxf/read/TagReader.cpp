@@ -106,15 +106,10 @@ int CTagReader::TakeOtherCode()
 
 QString CTagReader::Text(const CTextSpan& span) const
 {
-    return Text(span, Bytes(span));
-}
-
-QString CTagReader::Text(const CTextSpan& span, std::string_view part) const
-{
-    if (span.source == CTextSpan::Recoded) {
-        return CTextDecoder::DecodeRecoded(part.data(), part.size());
-    }
-    return decoder->Decode(part.data(), part.size());
+    const std::string_view bytes = Bytes(span);
+    return span.source == CTextSpan::Recoded
+        ? CTextDecoder::DecodeRecoded(bytes.data(), bytes.size())
+        : decoder->Decode(bytes.data(), bytes.size());
 }
 
 double CTagReader::ToUncommonDouble(const CTextSpan& span) const

@@ -76,9 +76,6 @@ public:
     /// The text itself.
     QString Text(const CTextSpan& span) const;
 
-    /// The text of a part of `span`, as `Bytes` gave it.
-    QString Text(const CTextSpan& span, std::string_view part) const;
-
     /// What `QString::toDouble` gives for the text, 0.0 if it does not convert.
     double ToDouble(const CTextSpan& span) const
     {
