@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "VelorExchange/dxf/write/NameTable_p.h"
 
-#include "VelorExchange/dxf/write/CodePage1251_p.h"
+#include "VelorExchange/dxf/write/TagOutput_p.h"
 
 namespace VelorExchange::dxf {
 
@@ -39,7 +39,7 @@ void CNameTable::Clear()
 const CName& CNameTable::Remember(const QString& given, const QString& filed, int handle)
 {
     CName name;
-    AppendCodePage1251(name.text, filed.constData(), filed.size());
+    AppendValue(name.text, filed.constData(), filed.size());
     name.handle = handle;
     lastGiven = given;
     last = &(spellings[given] = name);

@@ -21,6 +21,13 @@ bool IsLineBreak(char c)
 
 } // namespace
 
+void AppendValue(QByteArray& out, const QChar* text, int size)
+{
+    const int start = out.size();
+    AppendCodePage1251(out, text, size);
+    std::replace_if(out.begin() + start, out.end(), IsLineBreak, ' ');
+}
+
 CTagOutput::CTagOutput() : begin(new char[kBufferSize]), end(begin.get()) { }
 
 void CTagOutput::SetTarget(QFile& file)
@@ -61,8 +68,7 @@ void CTagOutput::WriteText(int code, const QChar* text, int size)
         // A letter of two QChars stays in one part.
         part += static_cast<int>(from + part < size && text[from + part - 1].isHighSurrogate());
         bytes.clear();
-        AppendCodePage1251(bytes, text + from, part);
-        std::replace_if(bytes.begin(), bytes.end(), IsLineBreak, ' ');
+        AppendValue(bytes, text + from, part);
         WriteBytes(bytes);
         from += part;
     }

@@ -14,6 +14,10 @@
 
 namespace VelorExchange::dxf {
 
+/// Appends a value as it stands in its line: in Windows-1251, a blank for each line break, which would
+/// end the value.
+void AppendValue(QByteArray& out, const QChar* text, int size);
+
 /// The one place where tags become bytes: numbers in fixed or decimal notation, text in Windows-1251,
 /// lines ended by CR LF.
 ///
@@ -60,7 +64,7 @@ public:
     /// The same for a text of any length.
     void WriteAscii(int code, std::string_view text);
 
-    /// A group with a text. A line break in it would end the value, and is written as a blank.
+    /// A group with a text, as `AppendValue` makes it.
     void WriteTag(int code, const QString& text) { WriteText(code, text.constData(), text.size()); }
 
     /// The same for a part of a text.
@@ -98,7 +102,7 @@ public:
         PutLineEnd();
     }
 
-    /// A group whose value is already encoded.
+    /// A group whose value comes from `AppendValue`.
     void WriteEncoded(int code, const QByteArray& value)
     {
         WriteAscii(code, {value.constData(), static_cast<std::size_t>(value.size())});

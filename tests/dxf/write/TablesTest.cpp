@@ -93,6 +93,23 @@ TEST(Tables, SecondLayerOfANameChangesNothing)
     EXPECT_EQ(LastRecord(drawing, "LAYER"), "2 a\n70 0\n62 7\n6 CONTINUOUS\n390 F\n");
 }
 
+TEST(Tables, LineBreakInANameDoesNotEndItsLine)
+{
+    CDrawing drawing;
+    CLineDXF line;
+    line.layer = QStringLiteral("a\nb");
+    line.lineStyle.name = QStringLiteral("c\r\nd");
+    drawing->AddLine(line);
+    CTextDXF text;
+    text.text = QStringLiteral("t");
+    text.style.name = QStringLiteral("e\nf");
+    drawing->AddText(text);
+    const CTags tags = ParseTags(drawing.Bytes());
+    EXPECT_EQ(ValuesOf(TableOf(tags, "LAYER"), 2).back(), "a b");
+    EXPECT_EQ(ValuesOf(TableOf(tags, "LTYPE"), 2).back(), "c  d");
+    EXPECT_EQ(ValuesOf(TableOf(tags, "STYLE"), 2).back(), "e f");
+}
+
 TEST(Tables, LayersThatDifferByCaseAreTwo)
 {
     CDrawing drawing;
