@@ -3,14 +3,17 @@
 
 namespace VelorExchange::dxf {
 
-// Letters are folded one by one, as the comparison does it; halves of surrogate pairs fold only as
-// pairs, so they all count the same here.
+// Letters are folded one by one, as the comparison does it: the second half of a surrogate pair stands
+// for the pair.
 std::size_t CLayerTable::Hash(const QString& name)
 {
     std::size_t hash = 14695981039346656037U; // FNV-1a
+    QChar last;
     for (const QChar c : name) {
-        hash ^= c.isSurrogate() ? 0xD800U : c.toCaseFolded().unicode();
+        const bool isPair = last.isHighSurrogate() && c.isLowSurrogate();
+        hash ^= QChar::toCaseFolded(isPair ? QChar::surrogateToUcs4(last, c) : c.unicode());
         hash *= 1099511628211U;
+        last = c;
     }
     return hash;
 }

@@ -94,6 +94,43 @@ TEST(LayerTable, EveryLetterIsFoundByWhateverEqualsItWithoutRegardToCase)
     }
 }
 
+TEST(LayerTable, ManyNamesBeyondTheBasicPlaneAreFoundQuickly)
+{
+    // All pairs of a plane, each of them twice. Were they all to meet in one place, this would take
+    // minutes.
+    CLayerTable table;
+    constexpr uint kFirst = 0x20000;
+    constexpr uint kCount = 0x8000;
+    for (uint i = 0; i < kCount; ++i) {
+        const uint letters[] = {kFirst + i, kFirst + i};
+        Add(table, QString::fromUcs4(letters, 2), i);
+    }
+    for (uint i = 0; i < kCount; ++i) {
+        const uint letters[] = {kFirst + i, kFirst + i};
+        ASSERT_EQ(table.Find(QString::fromUcs4(letters, 2))->color, i);
+    }
+}
+
+TEST(LayerTable, RandomNamesBeyondTheBasicPlaneAreFoundAsTheyCompare)
+{
+    std::mt19937 random(13);
+    const auto randomName = [&random] {
+        QString name;
+        for (auto length = 1 + random() % 3; length > 0; --length) {
+            static const ushort kUnits[] = {0xD801, 0xDC00, 0xDC28, 0xD800, 'k', 0x212A};
+            name += QChar(kUnits[random() % 6]);
+        }
+        return name;
+    };
+    for (int i = 0; i < 3000; ++i) {
+        CLayerTable table;
+        const QString name = randomName();
+        const QString other = randomName();
+        Add(table, name);
+        ASSERT_EQ(table.Find(other) != nullptr, name.compare(other, Qt::CaseInsensitive) == 0);
+    }
+}
+
 TEST(LayerTable, RandomNamesAreFoundAsASearchFromTheFrontFindsThem)
 {
     std::mt19937 random(11);
