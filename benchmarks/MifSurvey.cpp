@@ -47,6 +47,8 @@ const CMifObject& CMifSurvey::Next()
     switch (object.kind) {
     case EMifKind::Parcel:
         Ring(6 + number % 15, x, y, 60);
+        object.coordinates.insert(object.coordinates.end(),
+                                  {object.coordinates[0], object.coordinates[1]});
         break;
     case EMifKind::Contour:
         Ring(40 + number % 60, x, y, 400);

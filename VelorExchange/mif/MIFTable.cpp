@@ -42,10 +42,9 @@ QString Bound(double value, int precision)
     return QString::number(std::isfinite(value) ? value : 0.0, 'f', precision);
 }
 
-bool Write(QFile& file, const QString& text)
+bool Write(QFile& file, const COutputBlock& block)
 {
-    const QByteArray bytes = text.toLocal8Bit();
-    return file.write(bytes) == bytes.size();
+    return file.write(block.Data(), block.Size()) == block.Size();
 }
 
 // Leaves a temporary file at its end, where writing goes on, also when copying it failed.
@@ -99,7 +98,9 @@ bool CMIFWriterImpl::WriteGeometry(const QString& layer, const QString& name, co
         return false;
     }
     const CAtItsEnd guard(spool);
-    if (!Write(file, Header(columns, bounds))) {
+    block.Clear();
+    encoder.Put(block, Header(columns, bounds));
+    if (!Write(file, block)) {
         throw FileError(file);
     }
     AppendFileContents(file, spool);
@@ -110,18 +111,24 @@ bool CMIFWriterImpl::WriteGeometry(const QString& layer, const QString& name, co
 }
 
 bool CMIFWriterImpl::WriteRows(const QString& name, const CStoredAttributes& attributes,
-                               const std::vector<CWrittenColumn>& columns) const
+                               const std::vector<CWrittenColumn>& columns)
 {
+    constexpr qint64 kBlockSize = 65536;
     QFile file(name);
-    if (!file.open(QIODevice::WriteOnly)) {
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) {
         return false;
     }
     bool isComplete = true;
     CRowMaker maker(columns);
+    block.Clear();
     for (const CStoredAttributes::CRecord& record : attributes.Records()) {
-        isComplete = Write(file, maker.Row(record)) && isComplete;
+        encoder.Put(block, maker.Row(record));
+        if (block.Size() >= kBlockSize) {
+            isComplete = Write(file, block) && isComplete;
+            block.Clear();
+        }
     }
-    return file.flush() && isComplete;
+    return Write(file, block) && isComplete;
 }
 
 QString CMIFWriterImpl::Header(const std::vector<CWrittenColumn>& columns,

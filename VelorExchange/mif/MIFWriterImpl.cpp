@@ -2,12 +2,16 @@
 #include "VelorExchange/mif/MIFWriterImpl_p.h"
 
 #include "VelorExchange/foundation/TemporaryFile_p.h"
+#include "VelorExchange/mif/Tokens_p.h"
 
 #include <cmath>
 
 namespace VelorExchange::mif {
 
 namespace {
+
+constexpr CSeparators kForbidden("\\/\"*?:|<>");
+constexpr ushort kAsciiEnd = 0x80;
 
 bool IsFinite(const QRectF& rect)
 {
@@ -29,10 +33,10 @@ void DeleteMIFWriter(IMIFWriter* writer)
 
 QString SanitizeLayerName(const QString& layer)
 {
-    static const QString kForbidden = QStringLiteral("\\/\"*?:|<>");
     QString clean = layer;
-    for (int i = 0; i < clean.size(); ++i) {
-        if (kForbidden.contains(clean.at(i))) {
+    for (int i = 0; i < layer.size(); ++i) {
+        const ushort c = layer.at(i).unicode();
+        if (c < kAsciiEnd && kForbidden.Has(static_cast<char>(c))) {
             clean[i] = QLatin1Char('_');
         }
     }

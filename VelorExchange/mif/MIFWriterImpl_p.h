@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "VelorExchange/mif/Extent_p.h"
 #include "VelorExchange/mif/IMIFWriter.h"
+#include "VelorExchange/mif/LocalEncoder_p.h"
 #include "VelorExchange/mif/OutputBlock_p.h"
 #include "VelorExchange/mif/StoredAttributes_p.h"
 
@@ -41,7 +43,7 @@ private:
 
     void PutReal(double value);
     void PutMapped(const CPoint2D& point, const CPoint2D& mapped);
-    void PutVertices(const std::vector<CPoint2D>& points, QRectF& rect);
+    void PutVertices(const std::vector<CPoint2D>& points, CExtent& extent);
     void PutSymbol(const CSymbolMIF& symbol);
     bool SelectLayerFile(const QString& layer, const QRectF& rect);
     bool Store(const QString& givenLayer, const QRectF& rect, const QString& kind,
@@ -52,7 +54,7 @@ private:
     bool WriteGeometry(const QString& layer, const QString& name, const QRectF& bounds,
                        const std::vector<CWrittenColumn>& columns);
     bool WriteRows(const QString& name, const CStoredAttributes& attributes,
-                   const std::vector<CWrittenColumn>& columns) const;
+                   const std::vector<CWrittenColumn>& columns);
     QString Header(const std::vector<CWrittenColumn>& columns, const QRectF& bounds) const;
     void LogFailure(const QString& name) const;
 
@@ -65,6 +67,7 @@ private:
     int precision = 4;
 
     std::map<QString, qint64> sizesByLayer; // what the temporary files were given
+    CLocalEncoder encoder;
     COutputBlock block; // the object at hand
     bool isFinite = true; // whether all its numbers are
 };

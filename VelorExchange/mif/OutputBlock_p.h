@@ -4,7 +4,7 @@
 #include "VelorExchange/foundation/NumberFormatter_p.h"
 
 #include <QByteArray>
-#include <QString>
+#include <QtGlobal>
 
 #include <cstring>
 #include <memory>
@@ -20,19 +20,16 @@ public:
     const char* Data() const { return begin.get(); }
     qint64 Size() const { return end - begin.get(); }
 
-    void Put(char c) { *Room(1)++ = c; }
+    void Put(char c)
+    {
+        *Room(1) = c;
+        ++end;
+    }
 
     void Put(std::string_view text)
     {
         std::memcpy(Room(text.size()), text.data(), text.size());
         end += text.size();
-    }
-
-    /// By the local codec.
-    void PutText(const QString& text)
-    {
-        const QByteArray bytes = text.toLocal8Bit();
-        Put(std::string_view(bytes.constData(), static_cast<std::size_t>(bytes.size())));
     }
 
     void PutInteger(qint64 value) { end = PutInt(Room(kIntRoom), value); }
@@ -43,19 +40,24 @@ public:
         if (digits >= 0 && digits <= kMostFixedDigits) {
             end = PutFixed(Room(kFixedRoom), value, digits);
         } else {
-            PutText(QString::number(value, 'f', digits));
+            const QByteArray text = QByteArray::number(value, 'f', digits);
+            Put(std::string_view(text.constData(), static_cast<std::size_t>(text.size())));
         }
     }
 
-private:
-    // Where the next bytes go, with room for `size` of them.
-    char*& Room(std::size_t size)
+    /// Where the next bytes go, with room for `size` of them.
+    char* Room(std::size_t size)
     {
         if (static_cast<std::size_t>(limit - end) < size) {
             Grow(size);
         }
         return end;
     }
+
+    /// Takes what has been put into the room up to `newEnd`.
+    void SetEnd(char* newEnd) { end = newEnd; }
+
+private:
     void Grow(std::size_t size);
 
     std::unique_ptr<char[]> begin;

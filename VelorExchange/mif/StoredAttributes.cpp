@@ -1,7 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "VelorExchange/mif/StoredAttributes_p.h"
 
+#include "VelorExchange/foundation/NumberFormatter_p.h"
+
 #include <algorithm>
+#include <charconv>
+#include <cmath>
 #include <map>
 #include <utility>
 
@@ -16,6 +20,22 @@ struct CLessWithoutCase
         return a.compare(b, Qt::CaseInsensitive) < 0;
     }
 };
+
+constexpr std::size_t kRealRoom = 40;
+
+// The shortest text that reads back as `value`, as Qt writes it, for numbers that Qt writes without an
+// exponent for certain. Null for others.
+char* PutShortest(char* out, double value)
+{
+    constexpr double kLeast = 1e-4;
+    constexpr double kMostWhole = 1e5;
+    constexpr double kMost = 1e15;
+    const double size = std::fabs(value);
+    if (!(size >= kLeast && size < kMost) || (size >= kMostWhole && value == std::floor(value))) {
+        return nullptr;
+    }
+    return std::to_chars(out, out + kRealRoom, value, std::chars_format::fixed).ptr;
+}
 
 bool HasShape(const std::vector<CAttributeMIF>& attributes, const CShape& shape)
 {
@@ -95,6 +115,43 @@ void CRowMaker::FindPlaces(const CShape& newShape)
     shape = &newShape;
 }
 
+void CRowMaker::AppendReal(const QVariant& value, double number)
+{
+    char text[kRealRoom];
+    char* const end = PutShortest(text, number);
+    if (end == nullptr) {
+        row += value.toString();
+    } else {
+        row += QLatin1String(text, end);
+    }
+}
+
+// As `QVariant::toString` makes it; texts between quotes, without a look at quotes inside.
+void CRowMaker::AppendValue(const QVariant& value)
+{
+    switch (value.userType()) {
+    case QMetaType::QString:
+        row += QLatin1Char('"');
+        row += *static_cast<const QString*>(value.constData());
+        row += QLatin1Char('"');
+        break;
+    case QMetaType::Int: {
+        char text[kIntRoom];
+        row += QLatin1String(text, PutInt(text, *static_cast<const int*>(value.constData())));
+        break;
+    }
+    case QMetaType::Double:
+        AppendReal(value, *static_cast<const double*>(value.constData()));
+        break;
+    case QMetaType::Float:
+        AppendReal(value, static_cast<double>(*static_cast<const float*>(value.constData())));
+        break;
+    default:
+        row += value.toString();
+        break;
+    }
+}
+
 const QString& CRowMaker::Row(const CStoredAttributes::CRecord& record)
 {
     if (record.shape.get() != shape) {
@@ -112,13 +169,7 @@ const QString& CRowMaker::Row(const CStoredAttributes::CRecord& record)
         if (value.isNull()) {
             continue;
         }
-        if (columns[i].type == QMetaType::QString) {
-            row += QLatin1Char('"');
-            row += value.toString();
-            row += QLatin1Char('"');
-        } else {
-            row += value.toString();
-        }
+        AppendValue(value);
     }
     row += QLatin1Char('\n');
     return row;

@@ -56,6 +56,8 @@ public:
 
 private:
     void FindPlaces(const CShape& newShape);
+    void AppendValue(const QVariant& value);
+    void AppendReal(const QVariant& value, double number);
 
     const std::vector<CWrittenColumn>& columns;
     const CShape* shape = nullptr; // to which `places` belong

@@ -21,13 +21,6 @@ double ToDegrees(double radians)
     return radians * kHalfTurn / kPi;
 }
 
-// A point as a rectangle: one of no size at all would be left out of the union.
-QRectF Around(double x, double y)
-{
-    constexpr double kSize = 1e-08;
-    return {x, y, kSize, kSize};
-}
-
 qint64 FileColor(quint32 color)
 {
     return SwapRedAndBlue(color);
@@ -38,11 +31,11 @@ qint64 FileColor(quint32 color)
 QRectF TextBounds(const CTextMIF& text, double width)
 {
     const CPoint2D& corner = text.corner1;
-    QRectF rect(QPointF(corner.x, corner.y), QPointF(text.corner2.x, text.corner2.y));
+    CExtent extent(QRectF(QPointF(corner.x, corner.y), QPointF(text.corner2.x, text.corner2.y)));
     for (const double angle : {0.0, kPi, kThreeQuarters}) {
-        rect |= Around(corner.x + width * std::cos(angle), corner.y + width * std::sin(angle));
+        extent.Add(corner.x + width * std::cos(angle), corner.y + width * std::sin(angle));
     }
-    return rect;
+    return extent.Rect();
 }
 
 bool IsFinitePoint(const CPoint2D& point)
@@ -68,14 +61,14 @@ void CMIFWriterImpl::PutMapped(const CPoint2D& point, const CPoint2D& mapped)
 }
 
 // The line with the count, and a line for each point.
-void CMIFWriterImpl::PutVertices(const std::vector<CPoint2D>& points, QRectF& rect)
+void CMIFWriterImpl::PutVertices(const std::vector<CPoint2D>& points, CExtent& extent)
 {
     block.PutInteger(static_cast<qint64>(points.size()));
     block.Put('\n');
     for (const CPoint2D& point : points) {
         PutMapped(point, Transformed(point));
         block.Put('\n');
-        rect |= Around(point.x, point.y);
+        extent.Add(point.x, point.y);
     }
 }
 
@@ -84,11 +77,11 @@ bool CMIFWriterImpl::AddPolyline(const CPolylineMIF& line, const QString& layer)
     if (line.points.size() < kLeastPolyline) {
         return false;
     }
-    QRectF rect;
+    CExtent extent;
     block.Clear();
     isFinite = true;
     block.Put("PLINE\n");
-    PutVertices(line.points, rect);
+    PutVertices(line.points, extent);
     block.Put("PEN (");
     block.PutInteger(line.pen.width);
     block.Put(", ");
@@ -96,7 +89,7 @@ bool CMIFWriterImpl::AddPolyline(const CPolylineMIF& line, const QString& layer)
     block.Put(", ");
     block.PutInteger(FileColor(line.pen.color));
     block.Put(")\n");
-    return Store(layer, rect, texts::Polylines(), line);
+    return Store(layer, extent.Rect(), texts::Polylines(), line);
 }
 
 // The pen is always that of no outline, whatever the record holds: see
@@ -106,11 +99,11 @@ bool CMIFWriterImpl::AddRegion(const CRegionMIF& region, const QString& layer)
     if (region.points.size() < kLeastRegion) {
         return false;
     }
-    QRectF rect;
+    CExtent extent;
     block.Clear();
     isFinite = true;
     block.Put("REGION 1\n");
-    PutVertices(region.points, rect);
+    PutVertices(region.points, extent);
     block.Put("PEN (1, 1, 0)\nBRUSH (");
     block.PutInteger(region.brush.pattern);
     block.Put(", ");
@@ -118,7 +111,7 @@ bool CMIFWriterImpl::AddRegion(const CRegionMIF& region, const QString& layer)
     block.Put(", ");
     block.PutInteger(FileColor(region.brush.backColor));
     block.Put(")\n");
-    return Store(layer, rect, texts::Regions(), region);
+    return Store(layer, extent.Rect(), texts::Regions(), region);
 }
 
 void CMIFWriterImpl::PutSymbol(const CSymbolMIF& symbol)
@@ -130,7 +123,7 @@ void CMIFWriterImpl::PutSymbol(const CSymbolMIF& symbol)
     block.Put(", ");
     block.PutInteger(symbol.size);
     if (!symbol.font.isEmpty()) {
-        block.PutText(QStringLiteral(", \"") + symbol.font + QStringLiteral("\", "));
+        encoder.Put(block, QStringLiteral(", \"") + symbol.font + QStringLiteral("\", "));
         block.PutInteger(symbol.style);
         block.Put(", ");
         PutReal(ToDegrees(symbol.angle));
@@ -148,7 +141,9 @@ bool CMIFWriterImpl::AddPoint(const CPointMIF& point, const QString& layer)
     if (point.symbol.shape > 0) {
         PutSymbol(point.symbol);
     }
-    return Store(layer, Around(point.position.x, point.position.y), texts::Points(), point);
+    CExtent extent;
+    extent.Add(point.position.x, point.position.y);
+    return Store(layer, extent.Rect(), texts::Points(), point);
 }
 
 bool CMIFWriterImpl::AddText(const CTextMIF& text, const QString& layer)
@@ -159,12 +154,12 @@ bool CMIFWriterImpl::AddText(const CTextMIF& text, const QString& layer)
     isFinite = true;
     QString value = text.text;
     value.replace(QLatin1Char('"'), QStringLiteral("\"\""));
-    block.PutText(QStringLiteral("TEXT \"") + value + QStringLiteral("\"\n"));
+    encoder.Put(block, QStringLiteral("TEXT \"") + value + QStringLiteral("\"\n"));
     PutMapped(text.corner1, first);
     block.Put(' ');
     PutMapped(text.corner2, second);
     block.Put('\n');
-    block.PutText(QStringLiteral("FONT (\"") + text.font.name + QStringLiteral("\", "));
+    encoder.Put(block, QStringLiteral("FONT (\"") + text.font.name + QStringLiteral("\", "));
     block.PutInteger(text.font.style);
     block.Put(", 0, ");
     block.PutInteger(FileColor(text.font.color));

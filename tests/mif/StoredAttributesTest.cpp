@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "VelorExchange/mif/StoredAttributes_p.h"
 
+#include <cmath>
+#include <cstring>
+#include <random>
+
 using namespace VelorExchange::mif;
 
 namespace {
@@ -68,4 +72,33 @@ TEST(RowMaker, FindsValuesAgainWhenTheNamesChange)
         rows += maker.Row(record);
     }
     EXPECT_EQ(rows, QStringLiteral("1;2\n4;3\n;\n5;6\n"));
+}
+
+TEST(RowMaker, NumbersAreThoseOfToString)
+{
+    std::mt19937_64 random(41);
+    const auto expectSame = [](const QVariant& value) {
+        CStoredAttributes stored;
+        stored.Add({{QStringLiteral("a"), value}});
+        const std::vector<CWrittenColumn> columns = stored.CollectColumns();
+        CRowMaker maker(columns);
+        EXPECT_EQ(maker.Row(stored.Records()[0]), value.toString() + QLatin1Char('\n'));
+    };
+    for (int i = 0; i < 20000; ++i) {
+        const auto bits = random();
+        double any = 0;
+        std::memcpy(&any, &bits, sizeof any);
+        expectSame(any);
+        expectSame(QVariant::fromValue(static_cast<float>(any)));
+        const double scale = std::pow(10.0, static_cast<double>(bits % 24) - 6.0);
+        const double usual = static_cast<double>(random() % 2000001) / 1000000.0 - 1.0;
+        expectSame(usual * scale);
+        expectSame(QVariant::fromValue(static_cast<float>(usual * scale)));
+        expectSame(std::round(usual * scale));
+        expectSame(static_cast<int>(bits));
+        expectSame(QVariant::fromValue(static_cast<short>(bits)));
+    }
+    for (int whole = -100001; whole <= 100001; whole += 7) {
+        expectSame(static_cast<double>(whole));
+    }
 }
