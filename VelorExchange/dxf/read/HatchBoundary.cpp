@@ -123,7 +123,7 @@ void CHatchBoundary::ReadEdge(CPath& path)
 {
     constexpr CEdgeReader kReaders[] = {&CHatchBoundary::ReadLines, &CHatchBoundary::ReadArc,
                                         &CHatchBoundary::ReadEllipse, &CHatchBoundary::ReadSpline};
-    const auto kind = static_cast<std::size_t>(header.Int(72) - 1);
+    const auto kind = static_cast<std::size_t>(header.Int(72)) - 1;
     if (kind < std::size(kReaders)) {
         (this->*kReaders[kind])(path);
     }
