@@ -234,6 +234,14 @@ private:
             hatch.angle = input.Real();
             return Count(writer.AddHatch(hatch), counts.hatches);
         }
+        default:
+            return StepAround(kind);
+        }
+    }
+
+    void StepAround(int kind)
+    {
+        switch (kind) {
         case 4: {
             CMLineDXF mline;
             mline.vertices = input.Vertices();
