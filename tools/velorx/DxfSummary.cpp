@@ -8,67 +8,11 @@
 
 #include <boost/variant2/variant.hpp>
 
-#include <tuple>
-
 namespace velorx {
 
 using namespace VelorExchange::dxf;
 
 namespace {
-
-// Positions in CEntityVariantDXF, and CIRCLE behind them.
-enum EKind : std::size_t {
-    kPoint,
-    kLine,
-    kXLine,
-    kArc,
-    kSpline,
-    kLWPolyline,
-    kPolyline,
-    kText,
-    kMText,
-    kSolid,
-    kHatch,
-    k3DFace,
-    kImage,
-    kRay,
-    kMLine,
-    kAttDef,
-    kInsert,
-    kEllipse,
-    kCircle,
-    kKinds
-};
-
-static_assert(kKinds == std::tuple_size<CEntityCounts>::value);
-static_assert(kCircle == boost::variant2::variant_size<CEntityVariantDXF>::value);
-
-struct SKind
-{
-    const char* name;
-    const char* operation;
-};
-
-constexpr SKind kKindTable[kKinds] = {
-    {"POINT", "OnPoint"},       {"LINE", "OnLine"},     {"XLINE", "OnXLine"},
-    {"ARC", "OnArc"},           {"SPLINE", "OnSpline"}, {"LWPOLYLINE", "OnLWPolyline"},
-    {"POLYLINE", "OnPolyline"}, {"TEXT", "OnText"},     {"MTEXT", "OnMText"},
-    {"SOLID", "OnSolid"},       {"HATCH", "OnHatch"},   {"3DFACE", "On3DFace"},
-    {"IMAGE", "OnImage"},       {"RAY", "OnRay"},       {"MLINE", "OnMLine"},
-    {"ATTDEF", nullptr},        {"INSERT", "OnInsert"}, {"ELLIPSE", "OnEllipse"},
-    {"CIRCLE", "OnArc"},
-};
-
-std::size_t KindOf(const CArcDXF& arc)
-{
-    return arc.startAngle == arc.endAngle ? kCircle : kArc;
-}
-
-std::size_t KindOf(const CEntityVariantDXF& entity)
-{
-    const auto* arc = boost::variant2::get_if<CArcDXF>(&entity);
-    return arc != nullptr ? KindOf(*arc) : entity.index();
-}
 
 QByteArray HeadOf(const QString& path)
 {
@@ -77,16 +21,6 @@ QByteArray HeadOf(const QString& path)
 }
 
 } // namespace
-
-const char* EntityName(std::size_t index)
-{
-    return kKindTable[index].name;
-}
-
-const char* EntityOperation(std::size_t index)
-{
-    return kKindTable[index].operation;
-}
 
 QString CDxfSummary::Read(const QString& path, IDXFProgress* bar)
 {

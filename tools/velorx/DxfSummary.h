@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "tools/velorx/DxfKinds.h"
 #include "tools/velorx/ISummary.h"
 #include "VelorExchange/DXF.h"
 
 #include <QString>
 
-#include <array>
 #include <cstddef>
 #include <vector>
 
@@ -30,17 +30,6 @@ struct CListed
         }
     }
 };
-
-/// Counts of entities by kind: the indices of `CEntityVariantDXF`, then CIRCLE, which travels as an
-/// arc of equal angles.
-using CEntityCounts = std::array<qint64, 19>;
-
-/// Name of the kind `index` of `CEntityCounts` as it stands in a drawing, "LWPOLYLINE".
-const char* EntityName(std::size_t index);
-
-/// Name of the operation that delivers the kind `index`, "OnLWPolyline"; null for ATTDEF, which has
-/// none.
-const char* EntityOperation(std::size_t index);
 
 /// What is in a drawing, read with all gates open.
 class CDxfSummary final : public ISummary, public VelorExchange::dxf::IDXFReader
