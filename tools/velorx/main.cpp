@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // velorx, the command line host of VelorExchange: parses the command line and runs one command.
+#include "tools/velorx/ConvertCommand.h"
 #include "tools/velorx/HostCodec.h"
 #include "tools/velorx/InfoCommand.h"
 #include "tools/velorx/Output.h"
@@ -44,6 +45,7 @@ CCommands AddCommands(CLI::App& app)
 {
     CCommands commands;
     commands.emplace_back(std::make_unique<velorx::CInfoCommand>(), nullptr);
+    commands.emplace_back(std::make_unique<velorx::CConvertCommand>(), nullptr);
     for (auto& [command, parser] : commands) {
         parser = command->AddTo(app);
     }
@@ -52,7 +54,8 @@ CCommands AddCommands(CLI::App& app)
 
 int Run(int argc, char** argv)
 {
-    CLI::App app("velorx reads drawings and maps and says what is in them.", "velorx");
+    CLI::App app("velorx reads drawings and maps, says what is in them and writes them again.",
+                 "velorx");
     std::string codePage = "windows-1251";
     app.set_version_flag("--version", "velorx " VELORX_VERSION);
     app.footer(kFooter);
