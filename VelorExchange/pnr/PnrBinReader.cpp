@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "VelorExchange/pnr/PnrBinReader_p.h"
 
+#include "VelorExchange/foundation/NumberFormatter_p.h"
 #include "VelorExchange/pnr/Checksum_p.h"
 #include "VelorExchange/pnr/Texts_p.h"
 
@@ -8,6 +9,17 @@
 #include <type_traits>
 
 namespace VelorExchange::pnr {
+
+namespace {
+
+QString Decimal(qint32 value)
+{
+    std::array<char, kIntRoom> digits{};
+    const char* end = PutInt(digits.data(), value);
+    return QString::fromLatin1(digits.data(), static_cast<int>(end - digits.data()));
+}
+
+} // namespace
 
 CSxfRecordHead::CSxfRecordHead(CByteCursor& cursor)
 {
@@ -155,7 +167,7 @@ bool CPnrBinReader::ReadObject(CSxfRecordParser& parser, const CSxfRecordHead& h
     const auto object = std::make_unique<Object>();
     if constexpr (!std::is_same_v<Object, CTextObject>) {
         object->code = head.code;
-        object->codeText = QString::number(head.code);
+        object->codeText = Decimal(head.code);
     }
     if (!parser.ReadContours(*object, head, cursor)
         || (head.Has(sxf::kFlagDrawing) && !CSxfRecordParser::ReadDrawing(*object, cursor))

@@ -44,10 +44,30 @@ bool Contains(const CTxtSpan& line, const char* word)
     return AnyPoint(line, [word](const char* p) { return StartsWith(p, word); });
 }
 
+// False where no byte has the bit that all letters have, as in lines of coordinates.
+bool MayHoldLetters(const CTxtSpan& line)
+{
+    constexpr quint64 kLetterBits = 0x4040404040404040U;
+    quint64 chunk = 0;
+    if (line.size < sizeof chunk) {
+        return true;
+    }
+    const char* const last = line.end() - sizeof chunk;
+    for (const char* p = line.begin(); p < last; p += sizeof chunk) {
+        std::memcpy(&chunk, p, sizeof chunk);
+        if ((chunk & kLetterBits) != 0) {
+            return true;
+        }
+    }
+    std::memcpy(&chunk, last, sizeof chunk);
+    return (chunk & kLetterBits) != 0;
+}
+
 bool EndsBlock(const CTxtSpan& line)
 {
-    return AnyPoint(line,
-                    [](const char* p) { return StartsWith(p, ".obj") || StartsWith(p, ".end"); });
+    return MayHoldLetters(line) && AnyPoint(line, [](const char* p) {
+               return StartsWith(p, ".obj") || StartsWith(p, ".end");
+           });
 }
 
 } // namespace

@@ -113,6 +113,7 @@ bool CSxfRecordParser::ReadContour(CBaseObject& object, const CSxfRecordHead& he
 bool CSxfRecordParser::ReadContours(CBaseObject& object, const CSxfRecordHead& head,
                                     CByteCursor& cursor) const
 {
+    object.holders.reserve(head.subContours == 0 ? 1 : 0); // most have no more
     for (int i = 0; i <= head.subContours; ++i) {
         const qint16 vertices = i == 0 ? head.vertices : ReadSubContourHead(cursor);
         if (!ReadContour(object, head, vertices, cursor)) {

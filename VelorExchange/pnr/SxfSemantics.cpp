@@ -2,6 +2,7 @@
 #include "VelorExchange/pnr/SxfLayout_p.h"
 #include "VelorExchange/pnr/SxfRecord_p.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace VelorExchange::pnr {
@@ -36,7 +37,11 @@ QVariant Utf16Value(const char* bytes, std::size_t size)
 
 bool CSxfRecordParser::ReadSemantics(CBaseObject& object, qint64 size, CByteCursor& cursor)
 {
+    constexpr qint64 kShortest = 5; // bytes of an entry
+    constexpr qint64 kMostReserved = 4;
     const qint64 end = cursor.Position() + size;
+    object.semantics.reserve(
+        static_cast<std::size_t>(std::clamp(size / kShortest, qint64{0}, kMostReserved)));
     while (cursor.Position() < end) {
         PnrSemantic& semantic = object.semantics.emplace_back();
         semantic.code = cursor.Read<quint16>();

@@ -55,31 +55,18 @@ void CTxtBlock::Begin(const CTxtSpan& line)
     Add(line);
 }
 
-void CTxtBlock::Add(const CTxtSpan& line)
+void CTxtBlock::AddMark(const CTxtSpan& rest)
 {
-    if (line.size == 0) {
-        return;
-    }
-    const char* p = line.begin();
-    while (p != line.end() && *p == ' ') {
-        ++p;
-    }
-    if (p != line.end() && (*p == '.' || *p == '_' || *p == '>')) {
-        marks.push_back(places.size());
-    }
-    places.push_back({static_cast<std::size_t>(line.data - lines.Kept()), line.size});
-}
-
-CTxtSpan CTxtBlock::Line(std::size_t index) const
-{
-    return {lines.Kept() + places[index].offset, places[index].size};
+    const CTxtSpan token = CTxtTokens(rest).Next();
+    marks.push_back(
+        {places.size(), static_cast<std::size_t>(token.data - lines.Kept()), token.size});
 }
 
 bool CTxtBlock::Find(std::string_view word, std::size_t& index) const
 {
-    for (const std::size_t mark : marks) {
-        if (CTxtTokens(Line(mark)).Next() == word) {
-            index = mark;
+    for (const CMark& mark : marks) {
+        if (mark.size == word.size() && Token(mark) == word) {
+            index = mark.line;
             return true;
         }
     }
@@ -89,9 +76,9 @@ bool CTxtBlock::Find(std::string_view word, std::size_t& index) const
 std::size_t CTxtBlock::FindLast(std::string_view word, std::size_t from) const
 {
     std::size_t found = 0;
-    for (const std::size_t mark : marks) {
-        if (mark >= from && CTxtTokens(Line(mark)).Next() == word) {
-            found = mark;
+    for (const CMark& mark : marks) {
+        if (mark.line >= from && mark.size == word.size() && Token(mark) == word) {
+            found = mark.line;
         }
     }
     return found;

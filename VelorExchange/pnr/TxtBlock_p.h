@@ -39,13 +39,37 @@ public:
 
     /// Starts with the line that opens the object.
     void Begin(const CTxtSpan& line);
-    void Add(const CTxtSpan& line);
+    void Add(const CTxtSpan& line)
+    {
+        if (line.size == 0) {
+            return;
+        }
+        const char* p = line.begin();
+        while (p != line.end() && *p == ' ') {
+            ++p;
+        }
+        if (*p == '.' || *p == '_' || *p == '>') {
+            AddMark({p, static_cast<std::size_t>(line.end() - p)});
+        }
+        places.push_back({static_cast<std::size_t>(line.data - lines.Kept()), line.size});
+    }
 
     std::size_t Count() const { return places.size(); }
-    CTxtSpan Line(std::size_t index) const;
+    CTxtSpan Line(std::size_t index) const
+    {
+        return {lines.Kept() + places[index].offset, places[index].size};
+    }
 
-    /// The lines whose first token starts with ".", "_" or ">", by index: no look-up needs others.
-    const std::vector<std::size_t>& Marks() const { return marks; }
+    /// A line whose first token starts with ".", "_" or ">": no look-up needs others.
+    struct CMark
+    {
+        std::size_t line; // its index
+        std::size_t offset; // of the token, from the first byte of the block
+        std::size_t size; // of the token
+    };
+
+    const std::vector<CMark>& Marks() const { return marks; }
+    CTxtSpan Token(const CMark& mark) const { return {lines.Kept() + mark.offset, mark.size}; }
 
     /// The first line whose first token is `word`; false if there is none.
     bool Find(std::string_view word, std::size_t& index) const;
@@ -61,6 +85,8 @@ public:
     double Double(const CTxtSpan& token) const;
 
 private:
+    void AddMark(const CTxtSpan& rest);
+
     struct CPlace
     {
         std::size_t offset; // from the first byte of the block
@@ -69,7 +95,7 @@ private:
 
     CTxtLines& lines;
     std::vector<CPlace> places;
-    std::vector<std::size_t> marks;
+    std::vector<CMark> marks;
 };
 
 } // namespace VelorExchange::pnr

@@ -66,7 +66,8 @@ void CTxtLines::KeepFrom(const CTxtSpan& line)
     kept = static_cast<std::size_t>(line.data - buffer.data());
 }
 
-// Moves what is still needed to the front, and makes the buffer larger where that is all of it.
+// Moves what is still needed to the front, and makes the buffer larger where that is all of it. One
+// byte stays free for the line feed that Fill puts behind the last one.
 void CTxtLines::MakeRoom()
 {
     const std::size_t first = std::min(begin, kept);
@@ -87,23 +88,33 @@ bool CTxtLines::Fill()
         return false;
     }
     MakeRoom();
-    if (!marked) {
-        const qint64 got = file.read(buffer.data() + end, static_cast<qint64>(buffer.size() - end));
-        if (got <= 0) {
-            return false;
-        }
-        if (!started) {
-            started = true;
-            LookForByteOrderMark(buffer.data(), static_cast<std::size_t>(got));
-        }
-        if (!marked) {
-            end += static_cast<std::size_t>(got);
-            return true;
-        }
-        const std::vector<char> first(buffer.data(), buffer.data() + got);
-        Append(first.data(), first.size());
-        return true;
+    const bool more = marked ? ReadMarked() : Read();
+    buffer[end] = '\n'; // so that whatever looks at the last line meets its end
+    return more;
+}
+
+bool CTxtLines::Read()
+{
+    const qint64 got = file.read(buffer.data() + end, static_cast<qint64>(buffer.size() - end - 1));
+    if (got <= 0) {
+        return false;
     }
+    const auto size = static_cast<std::size_t>(got);
+    if (!started) {
+        started = true;
+        LookForByteOrderMark(buffer.data(), size);
+    }
+    if (marked) {
+        const std::vector<char> first(buffer.data(), buffer.data() + size);
+        Append(first.data(), first.size());
+    } else {
+        end += size;
+    }
+    return true;
+}
+
+bool CTxtLines::ReadMarked()
+{
     const QByteArray block = file.read(static_cast<qint64>(kBlockSize));
     Append(block.constData(), static_cast<std::size_t>(block.size()));
     return !block.isEmpty();
@@ -123,8 +134,8 @@ void CTxtLines::Append(const char* data, std::size_t size)
 {
     const QByteArray bytes = toUtf8->fromUnicode(marked->toUnicode(data, static_cast<int>(size)));
     const auto more = static_cast<std::size_t>(bytes.size());
-    if (buffer.size() - end < more) {
-        buffer.resize(end + more);
+    if (buffer.size() - end <= more) {
+        buffer.resize(end + more + 1);
     }
     std::memcpy(buffer.data() + end, bytes.constData(), more);
     end += more;

@@ -35,7 +35,8 @@ public:
     bool Open(const QString& fileName);
     void Close();
 
-    /// The next line; false at the end of the file. The span stays valid until the next call.
+    /// The next line; false at the end of the file. The span stays valid until the next call, and
+    /// behind it stands a byte that may be read: CR or LF.
     bool Next(CTxtSpan& line);
 
     /// Keeps all bytes from `line`, the last one, on, until the next call.
@@ -53,6 +54,8 @@ private:
     static constexpr std::size_t kNothing = static_cast<std::size_t>(-1);
 
     bool Fill();
+    bool Read();
+    bool ReadMarked();
     void MakeRoom();
     void Append(const char* data, std::size_t size);
     void LookForByteOrderMark(const char* data, std::size_t size);

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "VelorExchange/pnr/TxtObject_p.h"
 
+#include "VelorExchange/pnr/FixedNumber_p.h"
+
 #include <cstring>
 
 namespace VelorExchange::pnr {
@@ -16,17 +18,38 @@ bool MayBeNumber(const CTxtSpan& token)
     return (c >= '0' && c <= '9') || c == '-' || c == '+' || c < ' ' || c > '~';
 }
 
-void Parse(const CTxtBlock& block, CTxtTokens& tokens, CPoint2D& point)
+// The coordinates where all of them are plain numbers; else false, with some of them set.
+template <class... Values>
+bool ParsePlain(const CTxtSpan& line, Values&... values)
 {
-    point.x = block.Double(tokens.Next());
-    point.y = block.Double(tokens.Next());
+    const char* p = line.begin();
+    const auto next = [&p, &line](double& value) {
+        while (*p == ' ' && p != line.end()) {
+            ++p;
+        }
+        p = p != line.end() ? ParseFixed(p, value) : nullptr;
+        return p && (p == line.end() || *p == ' ');
+    };
+    return (next(values) && ...);
 }
 
-void Parse(const CTxtBlock& block, CTxtTokens& tokens, CPoint3D& point)
+void Parse(const CTxtBlock& block, const CTxtSpan& line, CPoint2D& point)
 {
-    point.x = block.Double(tokens.Next());
-    point.y = block.Double(tokens.Next());
-    point.z = block.Double(tokens.Next());
+    if (!ParsePlain(line, point.x, point.y)) {
+        CTxtTokens tokens(line);
+        point.x = block.Double(tokens.Next());
+        point.y = block.Double(tokens.Next());
+    }
+}
+
+void Parse(const CTxtBlock& block, const CTxtSpan& line, CPoint3D& point)
+{
+    if (!ParsePlain(line, point.x, point.y, point.z)) {
+        CTxtTokens tokens(line);
+        point.x = block.Double(tokens.Next());
+        point.y = block.Double(tokens.Next());
+        point.z = block.Double(tokens.Next());
+    }
 }
 
 template <class Holder>
@@ -36,8 +59,7 @@ std::unique_ptr<CAbstractVertexHolder> ParseHolder(const CTxtBlock& block, std::
     auto holder = std::make_unique<Holder>();
     holder->vertices.resize(count);
     for (std::size_t i = 0; i < count; ++i) {
-        CTxtTokens tokens(block.Line(first + i));
-        Parse(block, tokens, holder->vertices[i]);
+        Parse(block, block.Line(first + i), holder->vertices[i]);
     }
     return holder;
 }

@@ -97,10 +97,9 @@ bool CTxtObjectParser::Read(CTextObject& object) const
 QString CTxtObjectParser::JoinTextLines() const
 {
     QString joined;
-    for (const std::size_t mark : block.Marks()) {
-        const CTxtSpan line = block.Line(mark);
-        if (*CTxtTokens(line).Next().data == '>') {
-            joined += block.Text(line);
+    for (const CTxtBlock::CMark& mark : block.Marks()) {
+        if (*block.Token(mark).data == '>') {
+            joined += block.Text(block.Line(mark.line));
         }
     }
     return joined;
@@ -143,11 +142,12 @@ void CTxtObjectParser::ReadTextField(const CTxtSpan& line, PnrTextImage& image) 
 qint16 CTxtObjectParser::SumAlignments() const
 {
     int sum = 0;
-    for (const std::size_t mark : block.Marks()) {
-        CTxtTokens tokens(block.Line(mark));
-        if (!(tokens.Next() == ".ALG")) {
+    for (const CTxtBlock::CMark& mark : block.Marks()) {
+        if (!(block.Token(mark) == ".ALG")) {
             continue;
         }
+        CTxtTokens tokens(block.Line(mark.line));
+        tokens.Next();
         for (CTxtSpan token = tokens.Next(); token.size > 0; token = tokens.Next()) {
             for (const CAlignWord& align : kAlignWords) {
                 sum += token == align.word ? align.value : 0;
