@@ -63,6 +63,16 @@ bool CDxfReplay::Count(EDxfKind kind, bool isWritten)
     return Count(kind, isWritten, EntityName(kind));
 }
 
+bool CDxfReplay::CountText(EDxfKind kind, const QString& text, bool isWritten)
+{
+    if (!text.isEmpty()) {
+        return Count(kind, isWritten);
+    }
+    tally.Read(kind, writer.IsInBlock());
+    tally.Lose(EDxfLoss::EmptyTexts);
+    return false;
+}
+
 // ---- What elements have in common ---------------------------------------------------------------
 
 void CDxfReplay::AdaptLayer(QString& layer)
@@ -135,7 +145,8 @@ bool CDxfReplay::OnTextStyle(const CTextStyleDXF& record)
 
 bool CDxfReplay::OnLineStyle(const CLineStyleDXF& record)
 {
-    CLineStyleDXF style = record;
+    const CLineStyleDXF* known = survey.LineType(record.name);
+    CLineStyleDXF style = known != nullptr ? *known : record;
     style.name = lineTypeNames.Of(record.name);
     writer.AddLineStyle(style);
     return true;

@@ -62,6 +62,7 @@ private:
     /// Counts an element as read, and as written where the writer took it.
     bool Count(EDxfKind kind, bool isWritten, const char* as);
     bool Count(EDxfKind kind, bool isWritten);
+    bool CountText(EDxfKind kind, const QString& text, bool isWritten);
 
     void AdaptLayer(QString& layer);
     void AdaptHead(VelorExchange::dxf::CEntityDXF& head);

@@ -235,12 +235,18 @@ bool CDxfReplay::OnMLine(const CMLineDXF& record)
     return Count(kMLine, isWritten);
 }
 
-// Each image gets a definition of its own, and so needs a name of its own.
+// Each image gets a definition of its own, and so needs a name of its own. The writer tells the size of
+// the picture in its definition alone: a clip around all of it tells it to programs that look no further.
 bool CDxfReplay::OnImage(const CImageDXF& record)
 {
     CImageDXF image = record;
     AdaptLayer(image.layer);
     image.name = writer.MakeImageName(record.name);
+    if (image.clip.empty() && image.widthPixels > 0 && image.heightPixels > 0) {
+        constexpr double kHalfPixel = 0.5;
+        image.clip = {{-kHalfPixel, -kHalfPixel, 0.0},
+                      {image.widthPixels - kHalfPixel, image.heightPixels - kHalfPixel, 0.0}};
+    }
     bool isWhole = true;
     image.filePath = TextForDrawing(record.filePath, isWhole);
     return Count(kImage, writer.AddImage(image));

@@ -3,9 +3,12 @@
 #include "tools/velorx/DrawingText.h"
 #include "tools/velorx/DxfReplay.h"
 
+#include <cmath>
+
 namespace velorx {
 
 using namespace VelorExchange::dxf;
+using VelorExchange::CPoint3D;
 
 namespace {
 
@@ -30,6 +33,17 @@ int AttachmentForWriter(int attachment)
         return 0;
     }
     return (attachment - 1) % kColumns + kRow * ((attachment - 1) / kColumns);
+}
+
+// The insertion point that puts the base point of the block where the source has it.
+CPoint3D WithoutBase(const CInsertDXF& insert, const CPoint3D& base)
+{
+    const double angle = insert.rotation * kDegree;
+    const double x = insert.scaleX * base.x;
+    const double y = insert.scaleY * base.y;
+    return {insert.point.x - x * std::cos(angle) + y * std::sin(angle),
+            insert.point.y - x * std::sin(angle) - y * std::cos(angle),
+            insert.point.z - insert.scaleZ * base.z};
 }
 
 } // namespace
@@ -92,7 +106,7 @@ bool CDxfReplay::OnText(const CTextDXF& record)
     CTextDXF text = record;
     AdaptInOneLine(text);
     text.style.widthFactor = record.style.height != 0 ? record.style.height : 1.0;
-    return Count(kText, writer.AddText(text));
+    return CountText(kText, record.text, writer.AddText(text));
 }
 
 bool CDxfReplay::OnMText(const CMTextDXF& record)
@@ -100,7 +114,7 @@ bool CDxfReplay::OnMText(const CMTextDXF& record)
     CMTextDXF text = record;
     AdaptText(text);
     text.alignment = AttachmentForWriter(record.alignment);
-    return Count(kMText, writer.AddMText(text));
+    return CountText(kMText, record.text, writer.AddMText(text));
 }
 
 // The writer turns inserts the other way round.
@@ -108,6 +122,7 @@ bool CDxfReplay::OnInsert(const CInsertDXF& record)
 {
     CInsertDXF insert = record;
     AdaptLayer(insert.layer);
+    insert.point = WithoutBase(record, survey.BasePoint(record.name));
     insert.rotation = kTwoPi - record.rotation * kDegree;
     if (!record.name.isEmpty()) {
         insert.name = blockNames.Of(record.name);

@@ -104,7 +104,7 @@ void CDxfSurvey::TakeTag(int code, std::string_view value)
         TakeHeader(code, value);
         return;
     }
-    if (Is("MLINESTYLE") && styleTags.size() < kMostStyleTags) {
+    if ((Is("MLINESTYLE") || Is("LTYPE")) && styleTags.size() < kMostStyleTags) {
         styleTags.emplace_back(code, value);
     }
     groups.Add(code, value);
@@ -142,8 +142,8 @@ void CDxfSurvey::FinishRecord()
         JudgeLayer();
     } else if (Is("STYLE")) {
         JudgeTextStyle();
-    } else if (Is("LTYPE") && groups.Integer(73) != 0) {
-        tally.Lose(EDxfLoss::LineTypePatterns);
+    } else if (Is("LTYPE")) {
+        AddLineType();
     } else if (Is("MLINESTYLE")) {
         AddMLineStyle();
     }
@@ -154,14 +154,7 @@ void CDxfSurvey::FinishRecord()
 void CDxfSurvey::FinishEntity()
 {
     if (Is("BLOCK")) {
-        constexpr int kOutside = 4;
-        if (Differ(groups.Number(10), 0) || Differ(groups.Number(20), 0)
-            || Differ(groups.Number(30), 0)) {
-            tally.Lose(EDxfLoss::BlockBasePoints);
-        }
-        if ((groups.Integer(70) & kOutside) != 0) {
-            tally.Lose(EDxfLoss::OutsideBlocks);
-        }
+        AddBlock();
     } else if (Is("ATTRIB")) {
         JudgeText(74);
     } else if (record.empty() || IsPart(record)) {
@@ -313,10 +306,53 @@ void CDxfSurvey::AddMLineStyle()
     }
 }
 
+void CDxfSurvey::AddLineType()
+{
+    constexpr int kDescription = 3;
+    constexpr int kDash = 49;
+    VelorExchange::dxf::CLineStyleDXF style;
+    style.name = Decoded(groups.Name());
+    for (const auto& [code, value] : styleTags) {
+        if (code == kDescription) {
+            style.description = Decoded(value);
+        } else if (code == kDash) {
+            style.pattern.emplace_back(Decoded(value).toDouble());
+        }
+    }
+    if (groups.Number(74) != 0 || groups.Varies(74)) {
+        tally.Lose(EDxfLoss::LineTypePatterns);
+    }
+    lineTypes.insert(style.name.toCaseFolded(), style);
+}
+
+void CDxfSurvey::AddBlock()
+{
+    constexpr int kOutside = 4;
+    const VelorExchange::CPoint3D point{groups.Number(10), groups.Number(20), groups.Number(30)};
+    if (Differ(point.x, 0) || Differ(point.y, 0) || Differ(point.z, 0)) {
+        tally.Lose(EDxfLoss::BlockBasePoints);
+        basePoints.insert(Decoded(groups.Name()).toCaseFolded(), point);
+    }
+    if ((groups.Integer(70) & kOutside) != 0) {
+        tally.Lose(EDxfLoss::OutsideBlocks);
+    }
+}
+
 const CMLineStyleGroups* CDxfSurvey::MLineStyle(const QString& name) const
 {
     const auto found = mlineStyles.constFind(name.toCaseFolded());
     return found != mlineStyles.constEnd() ? &*found : nullptr;
+}
+
+const VelorExchange::dxf::CLineStyleDXF* CDxfSurvey::LineType(const QString& name) const
+{
+    const auto found = lineTypes.constFind(name.toCaseFolded());
+    return found != lineTypes.constEnd() ? &*found : nullptr;
+}
+
+VelorExchange::CPoint3D CDxfSurvey::BasePoint(const QString& name) const
+{
+    return basePoints.value(name.toCaseFolded());
 }
 
 double CDxfSurvey::MLineScale(const QString& name) const

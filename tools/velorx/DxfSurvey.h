@@ -4,6 +4,8 @@
 #include "tools/velorx/DxfGroups.h"
 #include "tools/velorx/DxfMLineStyle.h"
 #include "tools/velorx/DxfTally.h"
+#include "VelorExchange/dxf/records/LineStyle.h"
+#include "VelorExchange/foundation/Point.h"
 
 #include <QHash>
 #include <QString>
@@ -16,10 +18,10 @@
 namespace velorx {
 
 /// A first look over the pairs of a drawing for what the library's reader leaves out: kinds of
-/// entities that it does not know, groups that it does not read, and the styles of multilines, which it
-/// tells only behind the multilines themselves.
+/// entities that it does not know, groups that it does not read, the dashes of line types, the base
+/// points of blocks, and the styles of multilines.
 ///
-/// Memory grows with the number of multiline styles, and of kinds of entities, alone.
+/// Memory grows with the number of names alone: of line types, multiline styles, blocks and kinds.
 class CDxfSurvey
 {
 public:
@@ -34,6 +36,13 @@ public:
 
     /// The scale of the first multiline of the style `name`, 1 where there is none.
     double MLineScale(const QString& name) const;
+
+    /// The line type `name`, in any case, with the dashes that stand in its pattern; null if the drawing
+    /// has none.
+    const VelorExchange::dxf::CLineStyleDXF* LineType(const QString& name) const;
+
+    /// The base point of the block `name`, in any case.
+    VelorExchange::CPoint3D BasePoint(const QString& name) const;
 
     /// Whether texts that are set by their middle or right end have that point as their position.
     /// Otherwise, as in most drawings, their position is their left end.
@@ -53,6 +62,8 @@ private:
     void JudgeLayer();
     void JudgeTextStyle();
     void AddMLineStyle();
+    void AddLineType();
+    void AddBlock();
     QString Decoded(const std::string& bytes) const;
     bool Is(std::string_view kind) const { return record == kind; }
 
@@ -63,7 +74,10 @@ private:
     bool isVersionNext = false;
     int version = 1009;
     CDxfGroups groups;
-    std::vector<std::pair<int, std::string>> styleTags; ///< Of the multiline style in hand.
+    std::vector<std::pair<int, std::string>> styleTags; ///< Of the line or multiline style in hand.
+    QHash<QString, VelorExchange::dxf::CLineStyleDXF> lineTypes; ///< By name without case.
+    QHash<QString, VelorExchange::CPoint3D>
+        basePoints; ///< Those other than 0, by name without case.
     QHash<QString, CMLineStyleGroups> mlineStyles; ///< By name without case.
     QHash<QString, double> mlineScales; ///< By style name without case.
     qint64 anchorsAtPosition = 0;

@@ -20,7 +20,7 @@ constexpr const char* kLossTexts[] = {
     "blocks defined once more under the same name, left out",
     "blocks that are inserted but not defined, written empty",
     "blocks that refer to other files, written without the reference",
-    "base points of blocks, taken as 0, 0, 0",
+    "base points of blocks, made up for in the points of their inserts",
     "elements of blocks moved to layer 0 of their block",
     "elements of blocks on hidden layers, which show in the result",
     "elements marked as invisible, which show in the result",
@@ -29,7 +29,7 @@ constexpr const char* kLossTexts[] = {
     "elements with a true colour but no colour number, in the layer's colour",
     "layers with a colour, which their elements carry instead",
     "layers with a line type, which their elements carry instead",
-    "line types with dashes, written with no pattern",
+    "line types with letters or shapes, written with their dashes alone",
     "elements with a line type scale, at scale 1 in the result",
     "line types of points, faces and polylines in space, dropped",
     "line weights by block, dropped",
@@ -69,7 +69,8 @@ constexpr const char* kLossTexts[] = {
     "text styles whose font gives way to the drawing's own",
     "images, written without brightness, contrast and size in pixels",
     "elements with extended data, dropped",
-    "elements refused: a number that is none, or nothing to draw",
+    "texts without a letter, left out",
+    "elements refused: nothing to draw, or a number that is none",
 };
 
 static_assert(sizeof kLossTexts / sizeof *kLossTexts == static_cast<std::size_t>(EDxfLoss::kCount));

@@ -71,6 +71,7 @@ enum class EDxfLoss : std::size_t {
     TextStyleFonts,
     ImageColours,
     ExtendedData,
+    EmptyTexts,
     Refused,
     kCount
 };

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "VelorExchange/DXF.h"
-#include "VelorExchange/foundation/ExportLog.h"
 #include "tools/velorx/Conversion.h"
 #include "tools/velorx/DxfContent.h"
 #include "tools/velorx/DxfReplay.h"
 #include "tools/velorx/DxfSurvey.h"
 #include "tools/velorx/DxfTally.h"
+#include "VelorExchange/foundation/ExportLog.h"
 
 #include <QFile>
 
