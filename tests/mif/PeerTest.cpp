@@ -122,10 +122,10 @@ TEST(Peer, WhatGdalWritesIsRead)
     CMifRecorder recorder;
     ASSERT_TRUE(Read(folder.filePath(QStringLiteral("out")), &recorder));
     ExpectHolds(recorder.text, "AddPoint (1 2)");
-    ExpectHolds(recorder.text, "[name=QString:Дом] [n=int:1] [d=double:1.5]");
-    // The quotes of a value vanish, and the rings of a hole come as regions of their own.
+    ExpectHolds(recorder.text, "[name=QString:Дом] [n=int:1] [d=float:1.5]");
+    // A real of no told width is a Float of the table. The quotes of a value vanish, and the rings of a hole come as regions of their own.
     ExpectHolds(recorder.text, "AddPolyline (1 2)(3 4.5)");
-    ExpectHolds(recorder.text, "[name=QString:a b; c] [n=int:2] [d=double:2.5]");
+    ExpectHolds(recorder.text, "[name=QString:a b; c] [n=int:2] [d=float:2.5]");
     EXPECT_EQ(recorder.counts["AddRegion"], 2);
     EXPECT_EQ(recorder.counts["AddPolyline"], 3);
     EXPECT_EQ(recorder.counts["AddPoint"], 1);
