@@ -3,6 +3,7 @@
 
 #include "VelorExchange/foundation/NumberFormatter_p.h"
 #include "VelorExchange/pnr/Checksum_p.h"
+#include "VelorExchange/pnr/Deliver_p.h"
 #include "VelorExchange/pnr/Texts_p.h"
 
 #include <algorithm>
@@ -144,15 +145,15 @@ bool CPnrBinReader::ReadRecord(CSxfRecordParser& parser)
     file.Advance(length);
     switch (head.flags & sxf::kKindMask) {
     case sxf::KindLine:
-        return ReadObject(parser, head, cursor, &IContext::AddLine);
+        return ReadObject<CLineObject>(parser, head, cursor);
     case sxf::KindSquare:
-        return ReadObject(parser, head, cursor, &IContext::AddSquare);
+        return ReadObject<CSquareObject>(parser, head, cursor);
     case sxf::KindPoint:
     case sxf::KindVector:
-        return ReadObject(parser, head, cursor, &IContext::AddPoint);
+        return ReadObject<CPointObject>(parser, head, cursor);
     case sxf::KindText:
     case sxf::KindMixedText:
-        return ReadObject(parser, head, cursor, &IContext::AddText);
+        return ReadObject<CTextObject>(parser, head, cursor);
     default:
         return Fail(texts::kWrongFormat);
     }
@@ -161,7 +162,7 @@ bool CPnrBinReader::ReadRecord(CSxfRecordParser& parser)
 // The cursor spans the record behind its head, so that positions count from there.
 template <class Object>
 bool CPnrBinReader::ReadObject(CSxfRecordParser& parser, const CSxfRecordHead& head,
-                               CByteCursor& cursor, void (IContext::*deliver)(Object*))
+                               CByteCursor& cursor)
 {
     const qint64 end = qint64{head.length} - sxf::kMarkerSize - sxf::kRecordHeadSize;
     const auto object = std::make_unique<Object>();
@@ -179,9 +180,7 @@ bool CPnrBinReader::ReadObject(CSxfRecordParser& parser, const CSxfRecordHead& h
     {
         return Fail(texts::kWrongFormat);
     }
-    if (context) {
-        (context->*deliver)(object.get());
-    }
+    Deliver(context, *object);
     return true;
 }
 

@@ -26,8 +26,7 @@ private:
     bool ReadRecords();
     bool ReadRecord(CSxfRecordParser& parser);
     template <class Object>
-    bool ReadObject(CSxfRecordParser& parser, const CSxfRecordHead& head, CByteCursor& cursor,
-                    void (IContext::*deliver)(Object*));
+    bool ReadObject(CSxfRecordParser& parser, const CSxfRecordHead& head, CByteCursor& cursor);
     void ReadHeader();
     CSxfFrame Frame() const;
     quint32 SumFile();

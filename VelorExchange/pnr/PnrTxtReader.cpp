@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "VelorExchange/pnr/PnrTxtReader_p.h"
 
+#include "VelorExchange/pnr/Deliver_p.h"
 #include "VelorExchange/pnr/Texts_p.h"
 
 #include <cstring>
@@ -139,30 +140,28 @@ bool CPnrTxtReader::ParseBlock(const CTxtBlock& block)
     const CTxtObjectParser parser(block);
     const CTxtSpan kind = CTxtTokens::Last(block.Line(0));
     if (kind == "LIN") {
-        return Deliver(parser, &IContext::AddLine);
+        return ReadObject<CLineObject>(parser);
     }
     if (kind == "SQR") {
-        return Deliver(parser, &IContext::AddSquare);
+        return ReadObject<CSquareObject>(parser);
     }
     if (kind == "DOT" || kind == "VEC") {
-        return Deliver(parser, &IContext::AddPoint);
+        return ReadObject<CPointObject>(parser);
     }
     if (kind == "TIT" || kind == "MIX") {
-        return Deliver(parser, &IContext::AddText);
+        return ReadObject<CTextObject>(parser);
     }
     return false;
 }
 
 template <class Object>
-bool CPnrTxtReader::Deliver(const CTxtObjectParser& parser, void (IContext::*add)(Object*))
+bool CPnrTxtReader::ReadObject(const CTxtObjectParser& parser)
 {
     const auto object = std::make_unique<Object>();
     if (!parser.Read(*object)) {
         return false;
     }
-    if (context) {
-        (context->*add)(object.get());
-    }
+    Deliver(context, *object);
     return true;
 }
 

@@ -26,7 +26,7 @@ private:
     bool ReadObjects();
     bool ParseBlock(const CTxtBlock& block);
     template <class Object>
-    bool Deliver(const CTxtObjectParser& parser, void (IContext::*add)(Object*));
+    bool ReadObject(const CTxtObjectParser& parser);
     bool Fail(const wchar_t* message);
 
     CTxtLines lines;
