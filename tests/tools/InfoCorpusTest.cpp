@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// `velorx info --json` over real drawings that others made, against counts that were taken without
-// this library. The drawings are not part of the tree.
+// `velorx info --json` over real files that others made, against counts that were taken without
+// this library. The files are not part of the tree.
 #include "tests/tools/RunVelorx.h"
 
 #include <QJsonDocument>
@@ -10,6 +10,7 @@
 
 #include <cstdlib>
 #include <filesystem>
+#include <vector>
 
 namespace velorx::test {
 
@@ -31,33 +32,66 @@ std::string Text(const QJsonValue& value)
     return QJsonDocument(QJsonObject{{"value", value}}).toJson().toStdString();
 }
 
-} // namespace
-
-TEST(InfoCorpus, DeliversWhatIsExpectedOfEveryDrawing)
+// Compares what `velorx info --json` tells under each of `keys` with what is expected of every file of
+// the family. Returns how many files that were, -1 without a corpus.
+int CompareFamily(const char* family, const std::vector<const char*>& keys)
 {
     const std::string corpus = CorpusFolder();
     if (!std::filesystem::exists(corpus + "/expected.json")) {
-        GTEST_SKIP() << "no corpus at " << corpus;
+        return -1;
     }
     const QJsonObject files = Parse(ReadFile(corpus + "/expected.json")).value("files").toObject();
-    int drawings = 0;
+    int count = 0;
     for (const QString& name : files.keys()) {
         const QJsonObject facts = files.value(name).toObject();
-        if (facts.value("family").toString() != "dxf") {
+        if (facts.value("family").toString() != family || !facts.contains("reader")) {
             continue;
         }
         SCOPED_TRACE(name.toStdString());
         const SRun run = RunVelorx({"info", "--json", corpus + "/" + name.toStdString()});
-        EXPECT_EQ(run.exitCode, 0) << run.err;
         const QJsonObject summary = Parse(run.out);
         const QJsonObject reader = facts.value("reader").toObject();
-        for (const char* key :
-             {"result", "version", "callbacks", "block_entities", "insert_attributes"}) {
+        EXPECT_EQ(run.exitCode, reader.value("result").toBool() ? 0 : 1) << run.err;
+        for (const char* key : keys) {
             EXPECT_EQ(Text(summary.value(key)), Text(reader.value(key))) << key;
         }
-        ++drawings;
+        ++count;
     }
-    EXPECT_GT(drawings, 100);
+    return count;
+}
+
+} // namespace
+
+TEST(InfoCorpus, DeliversWhatIsExpectedOfEveryDrawing)
+{
+    const int count = CompareFamily(
+        "dxf", {"result", "version", "callbacks", "block_entities", "insert_attributes"});
+    if (count < 0) {
+        GTEST_SKIP() << "no corpus at " << CorpusFolder();
+    }
+    EXPECT_GT(count, 100);
+}
+
+TEST(InfoCorpus, DeliversWhatIsExpectedOfEveryTable)
+{
+    const int count = CompareFamily("mif",
+                                    {"result", "callbacks", "attributes_total", "mid_rows_taken",
+                                     "mid_rows_left", "records_without_attributes"});
+    if (count < 0) {
+        GTEST_SKIP() << "no corpus at " << CorpusFolder();
+    }
+    EXPECT_GT(count, 8);
+}
+
+TEST(InfoCorpus, DeliversWhatIsExpectedOfEveryMap)
+{
+    const int count = CompareFamily("sxf",
+                                    {"result", "message", "declared_records", "callbacks",
+                                     "vertices", "subcontours", "scale", "semantic_types"});
+    if (count < 0) {
+        GTEST_SKIP() << "no corpus at " << CorpusFolder();
+    }
+    EXPECT_GT(count, 1);
 }
 
 } // namespace velorx::test

@@ -3,33 +3,15 @@
 
 #include "tools/velorx/DxfKinds.h"
 #include "tools/velorx/ISummary.h"
+#include "tools/velorx/Listed.h"
 #include "VelorExchange/DXF.h"
 
 #include <QString>
 
 #include <cstddef>
-#include <vector>
 
 namespace velorx {
 
-/// A list of a drawing that keeps its first entries and counts all of them, so that a file with
-/// millions of blocks needs no more memory than one with a few thousand.
-template <class T>
-struct CListed
-{
-    static constexpr std::size_t kKept = 10000;
-
-    std::vector<T> first; ///< The first entries, `kKept` at most.
-    qint64 total = 0; ///< All entries.
-
-    void Add(T entry)
-    {
-        ++total;
-        if (first.size() < kKept) {
-            first.push_back(std::move(entry));
-        }
-    }
-};
 
 /// What is in a drawing, read with all gates open.
 class CDxfSummary final : public ISummary, public VelorExchange::dxf::IDXFReader

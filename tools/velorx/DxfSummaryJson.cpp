@@ -20,16 +20,6 @@ void AddCount(QJsonObject& object, const char* name, qint64 count)
     }
 }
 
-template <class T, class Convert>
-QJsonArray ToArray(const CListed<T>& list, Convert convert)
-{
-    QJsonArray array;
-    for (const T& entry : list.first) {
-        array.append(convert(entry));
-    }
-    return array;
-}
-
 QJsonObject Callbacks(const CDxfSummary& summary)
 {
     QJsonObject calls;

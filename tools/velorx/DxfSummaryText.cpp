@@ -2,6 +2,7 @@
 // The summary of a drawing for people.
 #include "tools/velorx/DxfColour.h"
 #include "tools/velorx/DxfSummary.h"
+#include "tools/velorx/Report.h"
 #include "tools/velorx/TextTable.h"
 
 namespace velorx {
@@ -15,18 +16,6 @@ using EAlign = CTextTable::EAlign;
 QString YesNo(bool value)
 {
     return value ? QStringLiteral("yes") : QStringLiteral("no");
-}
-
-QString Title(const char* name, qint64 count)
-{
-    return QStringLiteral("\n%1 (%2)\n").arg(QLatin1String(name)).arg(count);
-}
-
-template <class T>
-QString Rest(const CListed<T>& list)
-{
-    const qint64 left = list.total - static_cast<qint64>(list.first.size());
-    return left == 0 ? QString() : QStringLiteral("  ... and %1 more\n").arg(left);
 }
 
 QString PointText(const VelorExchange::CPoint3D& point)

@@ -3,22 +3,35 @@
 
 #include "tools/velorx/DxfContent.h"
 #include "tools/velorx/DxfSummary.h"
+#include "tools/velorx/MifSummary.h"
+#include "tools/velorx/RscSummary.h"
+#include "tools/velorx/SxfSummary.h"
 
 #include <QFileInfo>
 #include <QStringList>
+
+#include <type_traits>
 
 namespace velorx {
 
 namespace {
 
 template <class T>
-std::unique_ptr<ISummary> Make()
+std::unique_ptr<ISummary> Make(const SInfoOptions& options)
 {
-    return std::make_unique<T>();
+    if constexpr (std::is_constructible_v<T, const SInfoOptions&>) {
+        return std::make_unique<T>(options);
+    } else {
+        return std::make_unique<T>();
+    }
 }
 
 constexpr SFamily kFamilies[] = {
-    {"DXF", "DXF drawing", "dxf", IsDxfContent, Make<CDxfSummary>},
+    {"DXF", "DXF drawing", "dxf", true, IsDxfContent, Make<CDxfSummary>},
+    {"MIF", "MIF/MID table", "mif", true, nullptr, Make<CMifSummary>},
+    {"SXF", "SXF map", "sxf", true, IsSxfContent, Make<CSxfSummary>},
+    {"SXF", "SXF map", "txt", false, IsSxfTextContent, Make<CSxfSummary>},
+    {"RSC", "RSC classifier", "rsc", true, nullptr, Make<CRscSummary>},
 };
 
 } // namespace
@@ -27,12 +40,14 @@ const SFamily* FindFamily(const QString& path, const QByteArray& head)
 {
     const QString extension = QFileInfo(path).suffix();
     for (const SFamily& family : kFamilies) {
-        if (extension.compare(QLatin1String(family.extension), Qt::CaseInsensitive) == 0) {
+        if (family.extensionTells
+            && extension.compare(QLatin1String(family.extension), Qt::CaseInsensitive) == 0)
+        {
             return &family;
         }
     }
     for (const SFamily& family : kFamilies) {
-        if (family.isContent(head)) {
+        if (family.isContent != nullptr && family.isContent(head)) {
             return &family;
         }
     }

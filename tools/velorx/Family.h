@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "tools/velorx/InfoOptions.h"
 #include "tools/velorx/ISummary.h"
 
 #include <QByteArray>
@@ -16,8 +17,10 @@ struct SFamily
     const char* name; ///< "DXF".
     const char* description; ///< "DXF drawing".
     const char* extension; ///< Without the point, lower case.
-    bool (*isContent)(const QByteArray& head); ///< Whether a file starts like one of the family.
-    std::unique_ptr<ISummary> (*makeSummary)();
+    bool extensionTells; ///< False where files of other kinds have the extension too.
+    /// Whether a file starts like one of the family; null where that does not help.
+    bool (*isContent)(const QByteArray& head);
+    std::unique_ptr<ISummary> (*makeSummary)(const SInfoOptions& options);
 };
 
 /// How much of a file's start `FindFamily` wants to see.

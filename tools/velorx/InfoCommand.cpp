@@ -6,6 +6,8 @@
 #include "tools/velorx/Output.h"
 #include "tools/velorx/ProgressBar.h"
 
+#include <CLI/Validators.hpp>
+
 #include <QFile>
 #include <QFileInfo>
 #include <QJsonDocument>
@@ -46,6 +48,11 @@ CLI::App* CInfoCommand::AddTo(CLI::App& app)
         ->required()
         ->type_name("");
     command->add_flag("--json", json, "Print JSON for programs");
+    command->add_option("--rows", rows, "Show the attributes of the first N objects of a MIF table")
+        ->type_name("N")
+        ->check(CLI::NonNegativeNumber.description(""));
+    command->add_option("--library", library, "Panorama's own library, for RSC classifiers")
+        ->type_name("PATH");
     return command;
 }
 
@@ -68,7 +75,7 @@ EExit CInfoCommand::Run()
                    + ")");
         return kExitFailed;
     }
-    const std::unique_ptr<ISummary> summary = family->makeSummary();
+    const std::unique_ptr<ISummary> summary = family->makeSummary({rows, PathFromBytes(library)});
     const QString error = ReadSummary(*summary, path);
     const bool printed =
         Print(json ? JsonReport(file, *family, *summary) : TextReport(file, *family, *summary));

@@ -16,6 +16,8 @@ public:
 
 private:
     std::string file; ///< As the shell handed it over.
+    std::string library; ///< As the shell handed it over.
+    int rows = 0;
     bool json = false;
 };
 
