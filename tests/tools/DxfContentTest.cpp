@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "tools/velorx/DxfContent.h"
+#include "tools/velorx/formats/DxfContent.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "tools/velorx/Listed.h"
+#include "tools/velorx/info/Listed.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The rows that velorx counts from outside, against those that the library's reader takes.
-#include "tools/velorx/MifRows.h"
+#include "tools/velorx/formats/MifRows.h"
 #include "tests/support/MifRecorder.h"
 #include "VelorExchange/mif/MIFReader_p.h"
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 // velorx, the command line host of VelorExchange: parses the command line and runs one command.
-#include "tools/velorx/ConvertCommand.h"
+#include "tools/velorx/convert/ConvertCommand.h"
 #include "tools/velorx/HostCodec.h"
-#include "tools/velorx/InfoCommand.h"
+#include "tools/velorx/info/InfoCommand.h"
 #include "tools/velorx/Output.h"
 
 #include <CLI/CLI.hpp>

@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "tools/velorx/ConversionReport.h"
+#include "tools/velorx/info/Family.h"
+#include "VelorExchange/dxf/records/IDXFProgress.h"
+
+#include <QString>
+
+namespace velorx {
+
+/// What the command line says about a conversion.
+struct SConversionOptions
+{
+    int drawingVersion = 1018; ///< 1015 or 1018, for drawings.
+    int precision = 6; ///< Decimals of numbers.
+};
+
+/// One conversion to do.
+struct SConversionJob
+{
+    QString source; ///< Path of a file that can be opened.
+    QString target; ///< Path of the file to write, which exists and is empty.
+    QString targetName; ///< What the target is called in the end, for the report.
+    SConversionOptions options;
+    VelorExchange::dxf::IDXFProgress* progress = nullptr; ///< Not owned, can be null.
+};
+
+/// Does a job and fills the report. Returns an error in words, or an empty string for success. A file that
+/// cannot be written throws `FileError`.
+using CConversion = QString (*)(const SConversionJob& job, CConversionReport& report);
+
+/// The way from one family to another, null if there is none.
+CConversion FindConversion(const SFamily& from, const SFamily& to);
+
+/// Drawing to drawing: elements are handed on as they are read.
+QString ConvertDxfToDxf(const SConversionJob& job, CConversionReport& report);
+
+} // namespace velorx

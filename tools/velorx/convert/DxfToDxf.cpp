@@ -1,0 +1,56 @@
+// SPDX-License-Identifier: MIT
+#include "VelorExchange/DXF.h"
+#include "tools/velorx/convert/Conversion.h"
+#include "tools/velorx/convert/DxfReplay.h"
+#include "tools/velorx/formats/DxfContent.h"
+#include "tools/velorx/formats/DxfSurvey.h"
+#include "tools/velorx/formats/DxfTally.h"
+#include "VelorExchange/foundation/ExportLog.h"
+
+#include <QFile>
+
+#include <memory>
+
+namespace velorx {
+
+using namespace VelorExchange::dxf;
+
+namespace {
+
+QByteArray HeadOf(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.read(kHeadSize) : QByteArray();
+}
+
+} // namespace
+
+// Two passes: the first for what the reader leaves out, the second through the library.
+QString ConvertDxfToDxf(const SConversionJob& job, CConversionReport& report)
+{
+    if (!IsDxfContent(HeadOf(job.source))) {
+        return QStringLiteral("it does not start like a text drawing (binary ones are not read)");
+    }
+    CDxfTally tally;
+    CDxfSurvey survey(tally);
+    if (!survey.Read(job.source)) {
+        return QStringLiteral("it cannot be opened");
+    }
+    VelorExchange::CExportLog log;
+    log.SetOutputFile(job.targetName);
+    const std::unique_ptr<IDXFWriter, void (*)(IDXFWriter*)> writer(CreateDXFWriter(nullptr),
+                                                                    DeleteDXFWriter);
+    writer->Init(job.options.drawingVersion, &log);
+    writer->SetPrecision(job.options.precision);
+    CDxfReplay replay(*writer, survey, tally, job.progress);
+    if (!Read(job.source, &replay)) {
+        return QStringLiteral("the drawing ends inside a block");
+    }
+    replay.Finish();
+    writer->Rewrite(job.target);
+    log.GetText(report.log);
+    tally.FillReport(report);
+    return {};
+}
+
+} // namespace velorx

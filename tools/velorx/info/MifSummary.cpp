@@ -1,0 +1,150 @@
+// SPDX-License-Identifier: MIT
+#include "tools/velorx/info/MifSummary.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+#include <stdexcept>
+
+namespace velorx {
+
+using namespace VelorExchange::mif;
+
+namespace {
+
+// The one of two names that exists, as the library takes it.
+QString Existing(const QString& name, const char* extension, const char* other)
+{
+    const QString usual = name + QLatin1String(extension);
+    return QFile::exists(usual) ? usual : name + QLatin1String(other);
+}
+
+} // namespace
+
+QString CMifSummary::Read(const QString& path, VelorExchange::dxf::IDXFProgress* bar)
+{
+    const QString name = path.left(path.size() - QFileInfo(path).suffix().size() - 1);
+    if (Existing(name, ".mif", ".MIF") != path) {
+        return QStringLiteral(
+            "a table is read from NAME.mif, or from NAME.MIF where there is no NAME.mif");
+    }
+    progress = bar;
+    fileSize = QFileInfo(path).size();
+    header = ReadMifHeader(path);
+    follower = std::make_unique<CMifRows>(path, Existing(name, ".mid", ".MID"));
+    const QString error = Run(name);
+    rowsTaken = follower->Taken();
+    rowsLeft = follower->Left();
+    follower.reset();
+    if (progress != nullptr) {
+        progress->Finish();
+        progress = nullptr;
+    }
+    return error;
+}
+
+QString CMifSummary::Run(const QString& name)
+{
+    try {
+        result = VelorExchange::mif::Read(name, this);
+    } catch (const std::length_error&) {
+        return QStringLiteral("the table tells a count that cannot be");
+    }
+    return result ? QString() : QStringLiteral("the header cannot be read");
+}
+
+// ---- Records ----------------------------------------------------------------------------------
+
+template <class Record>
+void CMifSummary::Count(EKind kind, const Record& record)
+{
+    ++records[kind];
+    attributesTotal += static_cast<qint64>(record.attributes.size());
+    recordsWithoutAttributes += record.attributes.empty() ? 1 : 0;
+    if (!follower->Deliver()) {
+        return;
+    }
+    ++objects[kind];
+    if (rows.size() < static_cast<std::size_t>(rowsWanted)) {
+        rows.push_back({kind, record.attributes});
+    }
+}
+
+template <class Record>
+void CMifSummary::CountCorners(EKind kind, const Record& record)
+{
+    Count(kind, record);
+    extents.Add(record.corner1);
+    extents.Add(record.corner2);
+}
+
+template <class Record>
+void CMifSummary::CountPoints(EKind kind, const Record& record)
+{
+    Count(kind, record);
+    for (const VelorExchange::CPoint2D& point : record.points) {
+        extents.Add(point);
+    }
+}
+
+void CMifSummary::AddArc(const CArcMIF& arc)
+{
+    CountCorners(kArc, arc);
+}
+
+void CMifSummary::AddRoundRect(const CRoundRectMIF& rect)
+{
+    CountCorners(kRoundRect, rect);
+}
+
+void CMifSummary::AddEllipse(const CRectMIF& rect)
+{
+    CountCorners(kEllipse, rect);
+}
+
+void CMifSummary::AddRect(const CRectMIF& rect)
+{
+    CountCorners(kRect, rect);
+}
+
+void CMifSummary::AddText(const CTextMIF& text)
+{
+    CountCorners(kText, text);
+}
+
+void CMifSummary::AddPolyline(const CPolylineMIF& line)
+{
+    CountPoints(kPolyline, line);
+}
+
+void CMifSummary::AddRegion(const CRegionMIF& region)
+{
+    CountPoints(kRegion, region);
+}
+
+void CMifSummary::AddPoint(const CPointMIF& point)
+{
+    Count(kPoint, point);
+    extents.Add(point.position);
+}
+
+// ---- Progress ---------------------------------------------------------------------------------
+
+void CMifSummary::SetProgressRange(int /*total*/)
+{
+    if (progress != nullptr) {
+        progress->Begin(QString(), fileSize);
+    }
+}
+
+void CMifSummary::SetProgress(int position)
+{
+    follower->Report(static_cast<quint32>(position));
+    if (progress != nullptr) {
+        progress->SetPosition(follower->Position());
+    }
+}
+
+void CMifSummary::Finish() { }
+
+} // namespace velorx

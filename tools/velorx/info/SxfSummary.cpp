@@ -1,0 +1,87 @@
+// SPDX-License-Identifier: MIT
+#include "tools/velorx/info/SxfSummary.h"
+
+#include <memory>
+
+namespace velorx {
+
+using namespace VelorExchange::pnr;
+
+namespace {
+
+template <class Holder>
+void AddVertices(const CAbstractVertexHolder& holder, CExtents& extents)
+{
+    for (const auto& vertex : static_cast<const Holder&>(holder).vertices) {
+        extents.Add(vertex.x, vertex.y);
+    }
+}
+
+} // namespace
+
+QString CSxfSummary::Read(const QString& path, VelorExchange::dxf::IDXFProgress* bar)
+{
+    header = ReadSxfHeader(path);
+    progress = bar;
+    if (progress != nullptr) {
+        progress->Begin(QString(), header.declaredRecords);
+    }
+    const std::unique_ptr<IPnrReader, void (*)(IPnrReader*)> reader(
+        CreateReader(header.isText, this), DeleteReader);
+    result = reader->Read(path);
+    message = QString::fromStdWString(reader->GetLastError());
+    if (progress != nullptr) {
+        progress->Finish();
+        progress = nullptr;
+    }
+    if (result) {
+        return QString();
+    }
+    const QString noMessage = QStringLiteral("the map ends inside a record");
+    return message.isEmpty() ? noMessage : message;
+}
+
+void CSxfSummary::AddText(CTextObject* text)
+{
+    Count(kText, *text);
+}
+
+void CSxfSummary::AddSquare(CSquareObject* square)
+{
+    Count(kSquare, *square);
+}
+
+void CSxfSummary::AddLine(CLineObject* line)
+{
+    Count(kLine, *line);
+}
+
+void CSxfSummary::AddPoint(CPointObject* point)
+{
+    Count(kPoint, *point);
+}
+
+void CSxfSummary::Count(EKind kind, const CBaseObject& object)
+{
+    SCounts& count = counts[kind];
+    const auto contours = static_cast<qint64>(object.holders.size());
+    ++objects;
+    ++count.objects;
+    count.contours += contours;
+    subContours += contours > 1 ? contours - 1 : 0;
+    for (const auto& holder : object.holders) {
+        count.vertices += holder->Count();
+        holder->Is2D() ? AddVertices<CVertexHolder2D>(*holder, extents)
+                       : AddVertices<CVertexHolder3D>(*holder, extents);
+    }
+    layers.Add(object.layer);
+    for (const PnrSemantic& semantic : object.semantics) {
+        semantics.Add(semantic.code);
+        semanticTypes.Add(semantic.dataType);
+    }
+    if (progress != nullptr) {
+        progress->SetPosition(objects);
+    }
+}
+
+} // namespace velorx
