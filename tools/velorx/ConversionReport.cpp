@@ -3,11 +3,18 @@
 
 #include "tools/velorx/TextTable.h"
 
+#include <QStringList>
+
+#include <algorithm>
+#include <cstddef>
+
 namespace velorx {
 
 namespace {
 
 using EAlign = CTextTable::EAlign;
+
+constexpr std::size_t kLayersShown = 5;
 
 QString KindsText(const std::vector<SConvertedKind>& kinds)
 {
@@ -21,6 +28,33 @@ QString KindsText(const std::vector<SConvertedKind>& kinds)
     return QStringLiteral("\nCarried over\n") + table.ToText();
 }
 
+// Where most of it was lost, the rest as a number of layers.
+QString LayersText(std::vector<std::pair<QString, qint64>> layers)
+{
+    if (layers.empty()) {
+        return {};
+    }
+    std::stable_sort(layers.begin(), layers.end(),
+                     [](const auto& one, const auto& other) { return one.second > other.second; });
+    QStringList names;
+    for (std::size_t i = 0; i < std::min(layers.size(), kLayersShown); ++i) {
+        names.append(layers[i].first + QLatin1Char(' ') + QString::number(layers[i].second));
+    }
+    if (layers.size() > kLayersShown) {
+        names.append(QStringLiteral("%1 more").arg(layers.size() - kLayersShown));
+    }
+    return QStringLiteral(" (layers: ") + names.join(QStringLiteral(", ")) + QLatin1Char(')');
+}
+
+QString RemarksText(const std::vector<QString>& remarks)
+{
+    QString text;
+    for (const QString& remark : remarks) {
+        text += QLatin1Char('\n') + Printable(remark);
+    }
+    return remarks.empty() ? text : text + QLatin1Char('\n');
+}
+
 QString LossesText(const std::vector<SConversionLoss>& losses)
 {
     if (losses.empty()) {
@@ -28,7 +62,7 @@ QString LossesText(const std::vector<SConversionLoss>& losses)
     }
     CTextTable table({EAlign::Right, EAlign::Left});
     for (const SConversionLoss& loss : losses) {
-        table.Add({QString::number(loss.count), Printable(loss.what)});
+        table.Add({QString::number(loss.count), Printable(loss.what + LayersText(loss.layers))});
     }
     return QStringLiteral("\nLost or changed\n") + table.ToText();
 }
@@ -37,7 +71,7 @@ QString LossesText(const std::vector<SConversionLoss>& losses)
 
 QString CConversionReport::ToText() const
 {
-    return log + QLatin1Char('\n') + KindsText(kinds) + LossesText(losses);
+    return log + QLatin1Char('\n') + KindsText(kinds) + LossesText(losses) + RemarksText(remarks);
 }
 
 } // namespace velorx

@@ -4,6 +4,7 @@
 #include <QString>
 #include <QtGlobal>
 
+#include <utility>
 #include <vector>
 
 namespace velorx {
@@ -23,6 +24,8 @@ struct SConversionLoss
 {
     QString what; ///< In words that follow a count.
     qint64 count = 0;
+    std::vector<std::pair<QString, qint64>>
+        layers; ///< How much of it where, as far as that is known.
 };
 
 /// What a conversion has to tell in the end: whatever was read is either written or stands here.
@@ -30,6 +33,7 @@ struct CConversionReport
 {
     std::vector<SConvertedKind> kinds; ///< Those that were met, in the source family's order.
     std::vector<SConversionLoss> losses; ///< Those that were met.
+    std::vector<QString> remarks; ///< What else is to be known, one line each.
     QString log; ///< The export report in its own form; ends without a line feed.
 
     /// The report for people: lines that each end with a line feed.

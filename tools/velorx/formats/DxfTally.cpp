@@ -103,11 +103,11 @@ void CDxfTally::FillReport(CConversionReport& report) const
     }
     for (const auto& [kind, count] : unread) {
         report.losses.push_back(
-            {QString::fromUtf8(kind.c_str()) + QStringLiteral(", not read: left out"), count});
+            {QString::fromUtf8(kind.c_str()) + QStringLiteral(", not read: left out"), count, {}});
     }
     for (std::size_t i = 0; i < losses.size(); ++i) {
         if (losses[i] != 0) {
-            report.losses.push_back({QLatin1String(kLossTexts[i]), losses[i]});
+            report.losses.push_back({QLatin1String(kLossTexts[i]), losses[i], {}});
         }
     }
 }
