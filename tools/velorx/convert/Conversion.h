@@ -7,6 +7,8 @@
 
 #include <QString>
 
+#include <string_view>
+
 namespace velorx {
 
 /// What the command line says about a conversion.
@@ -14,6 +16,8 @@ struct SConversionOptions
 {
     int drawingVersion = 1018; ///< 1015 or 1018, for drawings.
     int precision = 6; ///< Decimals of numbers.
+    double chord = 0.01; ///< Curves become chords that are off by no more than this, file units.
+    int scale = 0; ///< Denominator of the scale of SXF maps; 0 for that of the source.
 };
 
 /// One conversion to do.
@@ -32,6 +36,10 @@ using CConversion = QString (*)(const SConversionJob& job, CConversionReport& re
 
 /// The way from one family to another, null if there is none.
 CConversion FindConversion(const SFamily& from, const SFamily& to);
+
+/// Any family to any other through the stream of features. `from` and `to` are names of families.
+QString ConvertThroughFeatures(std::string_view from, std::string_view to,
+                               const SConversionJob& job, CConversionReport& report);
 
 /// Drawing to drawing: elements are handed on as they are read.
 QString ConvertDxfToDxf(const SConversionJob& job, CConversionReport& report);

@@ -1,0 +1,73 @@
+// SPDX-License-Identifier: MIT
+#include "tools/velorx/features/FeatureFormats.h"
+
+#include "tools/velorx/features/FeatureTally.h"
+
+#include <algorithm>
+#include <vector>
+
+namespace velorx {
+
+namespace {
+
+struct SSourceMaker
+{
+    std::string_view family;
+    std::unique_ptr<IFeatureSource> (*make)(const QString& path, const SSourceOptions& options);
+};
+
+struct STargetMaker
+{
+    std::string_view family;
+    std::unique_ptr<IFeatureTarget> (*make)(const STargetOptions& options, CFeatureTally& tally);
+};
+
+template <class T>
+std::unique_ptr<IFeatureSource> Source(const QString& path, const SSourceOptions& options)
+{
+    return std::make_unique<T>(path, options);
+}
+
+template <class T>
+std::unique_ptr<IFeatureTarget> Target(const STargetOptions& options, CFeatureTally& tally)
+{
+    return std::make_unique<T>(options, tally);
+}
+
+const std::vector<SSourceMaker>& Sources()
+{
+    static const std::vector<SSourceMaker> sources = {};
+    return sources;
+}
+
+const std::vector<STargetMaker>& Targets()
+{
+    static const std::vector<STargetMaker> targets = {};
+    return targets;
+}
+
+template <class TMakers>
+auto FindMaker(const TMakers& makers, std::string_view family)
+{
+    const auto found = std::find_if(makers.begin(), makers.end(),
+                                    [family](const auto& maker) { return maker.family == family; });
+    return found == makers.end() ? nullptr : found->make;
+}
+
+} // namespace
+
+std::unique_ptr<IFeatureSource> MakeFeatureSource(std::string_view family, const QString& path,
+                                                  const SSourceOptions& options)
+{
+    const auto make = FindMaker(Sources(), family);
+    return make != nullptr ? make(path, options) : nullptr;
+}
+
+std::unique_ptr<IFeatureTarget>
+MakeFeatureTarget(std::string_view family, const STargetOptions& options, CFeatureTally& tally)
+{
+    const auto make = FindMaker(Targets(), family);
+    return make != nullptr ? make(options, tally) : nullptr;
+}
+
+} // namespace velorx
