@@ -28,57 +28,57 @@ typedef unsigned short DXFChar; /**< A unit of UTF-16. */
 /** A colour, each part 0 to 255. */
 typedef struct DXFColor
 {
-    unsigned char red;
-    unsigned char green;
-    unsigned char blue;
+    unsigned char red; /**< 0 to 255. */
+    unsigned char green; /**< 0 to 255. */
+    unsigned char blue; /**< 0 to 255. */
 } DXFColor;
 
 /** A vertex in drawing units. */
 typedef struct DXFVertex
 {
-    double x;
-    double y;
+    double x; /**< To the right. */
+    double y; /**< Upwards. */
     double bulge; /**< Tangent of a quarter of the arc to the next vertex; 0 for a straight line. */
 } DXFVertex;
 
 /** An inner boundary of a region. */
 typedef struct DXFHole
 {
-    const DXFVertex* vertices;
-    int vertexCount;
+    const DXFVertex* vertices; /**< Its corners; the first need not come again at the end. */
+    int vertexCount; /**< Number of `vertices`. */
 } DXFHole;
 
 /** A polyline. On the layers "Dimensions" and "Notes" it takes the layer's colour, not its own. */
 typedef struct DXFPolylineData
 {
-    const DXFChar* layer;
-    const DXFVertex* vertices;
-    int vertexCount;
+    const DXFChar* layer; /**< Name of the layer, made safe for a drawing. */
+    const DXFVertex* vertices; /**< From start to end. */
+    int vertexCount; /**< Number of `vertices`. */
     double width; /**< Constant width in drawing units. */
-    DXFColor color;
+    DXFColor color; /**< Own colour. */
 } DXFPolylineData;
 
 /** A filled region. Its colour follows the rule of polylines. */
 typedef struct DXFRegionData
 {
-    const DXFChar* layer;
+    const DXFChar* layer; /**< Name of the layer, made safe for a drawing. */
     const DXFVertex* vertices; /**< The outer boundary. */
-    int vertexCount;
-    DXFColor color;
-    const DXFHole* holes;
-    int holeCount;
+    int vertexCount; /**< Number of `vertices`. */
+    DXFColor color; /**< Own colour. */
+    const DXFHole* holes; /**< What is left out of the region. */
+    int holeCount; /**< Number of `holes`. */
 } DXFRegionData;
 
 /** A text in a box. Its colour follows the rule of polylines. */
 typedef struct DXFTextData
 {
-    const DXFChar* layer;
-    double x;
-    double y;
-    const DXFChar* text;
+    const DXFChar* layer; /**< Name of the layer, made safe for a drawing. */
+    double x; /**< Of the point that `alignment` names, drawing units. */
+    double y; /**< Of the same point. */
+    const DXFChar* text; /**< What is written. */
     double height; /**< Drawing units. */
     double angle; /**< Radians, counter-clockwise. */
-    DXFColor color;
+    DXFColor color; /**< Own colour. */
     double width; /**< Width of the box in drawing units. */
     /** 0, 1, 2 top, 4, 5, 6 middle, 9, 10 bottom, each from left to right; any other: bottom left. */
     int alignment;
@@ -87,18 +87,18 @@ typedef struct DXFTextData
 /** A picture. */
 typedef struct DXFImageData
 {
-    const DXFChar* layer;
-    const DXFChar* name;
-    const DXFChar* path;
-    double x; /**< Lower left corner. */
-    double y;
-    int pixelWidth;
-    int pixelHeight;
+    const DXFChar* layer; /**< Name of the layer, made safe for a drawing. */
+    const DXFChar* name; /**< Name of the picture in the drawing. */
+    const DXFChar* path; /**< Path of its file, written as it is. */
+    double x; /**< Of the lower left corner, drawing units. */
+    double y; /**< Of the lower left corner, drawing units. */
+    int pixelWidth; /**< Pixels along the picture. */
+    int pixelHeight; /**< Pixels across the picture. */
     double sizeX; /**< Width of one pixel in drawing units. */
-    double sizeY;
+    double sizeY; /**< Height of one pixel in drawing units. */
     double angle; /**< Radians, counter-clockwise. */
     const DXFVertex* clip; /**< Clip outline in pixels; the bulge plays no part. */
-    int clipCount;
+    int clipCount; /**< Number of vertices in `clip`, 0 for the whole picture. */
 } DXFImageData;
 
 /** A new writer, set to AC1018. The caller gives it back to DXF_DeleteWriter. */

@@ -7,7 +7,7 @@
 set -euo pipefail
 
 build="g++ cmake ninja-build pkg-config qtbase5-dev libboost-dev libgtest-dev libcli11-dev"
-judges="gdal-bin libgdal-dev libdxflib-dev python3-ezdxf clang-14 libclang-rt-14-dev libbenchmark-dev valgrind g++-mingw-w64-x86-64-win32 wine64 wine"
+judges="gdal-bin libgdal-dev libdxflib-dev python3-ezdxf clang-14 libclang-rt-14-dev libbenchmark-dev valgrind g++-mingw-w64-x86-64-win32 wine64 wine doxygen"
 
 missing_of() {
     for package in "$@"; do

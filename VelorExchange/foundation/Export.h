@@ -11,5 +11,6 @@
 #define VELOREXCHANGE_EXPORT __declspec(dllimport)
 #endif
 #else
+/// In front of each function and class that a host may call.
 #define VELOREXCHANGE_EXPORT __attribute__((visibility("default")))
 #endif

@@ -18,9 +18,9 @@ class VELOREXCHANGE_EXPORT CExportLog
 {
 public:
     CExportLog();
-    CExportLog(const CExportLog& other);
+    CExportLog(const CExportLog& other); ///< Takes text, counts and settings.
     CExportLog(CExportLog&& other) noexcept; ///< Leaves `other` without statistics.
-    CExportLog& operator=(const CExportLog& other);
+    CExportLog& operator=(const CExportLog& other); ///< Takes text, counts and settings.
     CExportLog& operator=(CExportLog&& other) noexcept; ///< Leaves `other` without statistics.
     ~CExportLog();
 

@@ -19,10 +19,10 @@ class VELOREXCHANGE_EXPORT FileError : public std::exception
 public:
     /// Takes code and name from `file` at once; what later happens to the file changes nothing here.
     explicit FileError(const QFile& file);
-    FileError(const FileError& other) = default;
-    FileError(FileError&& other) = default;
-    FileError& operator=(const FileError& other) = default;
-    FileError& operator=(FileError&& other) = default;
+    FileError(const FileError& other) = default; ///< With code and name.
+    FileError(FileError&& other) = default; ///< With code and name.
+    FileError& operator=(const FileError& other) = default; ///< With code and name.
+    FileError& operator=(FileError&& other) = default; ///< With code and name.
     ~FileError() override;
 
     /// Always "Unknown exception".

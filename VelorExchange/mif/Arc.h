@@ -14,7 +14,7 @@ struct CArcMIF : CAttributeHolderMIF
     CPoint2D corner2; ///< The corner opposite to it.
     double startAngle = 0.0; ///< Radians, counter-clockwise.
     double endAngle = 0.0; ///< Radians, counter-clockwise.
-    CPenMIF pen{1, 2, 0};
+    CPenMIF pen{1, 2, 0}; ///< How the line is drawn; thin, solid and black without a clause.
 };
 
 } // namespace VelorExchange::mif

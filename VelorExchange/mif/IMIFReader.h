@@ -18,11 +18,11 @@ namespace VelorExchange::mif {
 class IMIFReader
 {
 public:
-    virtual void AddArc(const CArcMIF& arc) = 0;
-    virtual void AddRoundRect(const CRoundRectMIF& rect) = 0;
+    virtual void AddArc(const CArcMIF& arc) = 0; ///< Part of the ellipse in a rectangle.
+    virtual void AddRoundRect(const CRoundRectMIF& rect) = 0; ///< With round corners.
     virtual void AddEllipse(const CRectMIF& rect) = 0; ///< The rectangle that the ellipse fills.
-    virtual void AddRect(const CRectMIF& rect) = 0;
-    virtual void AddText(const CTextMIF& text) = 0;
+    virtual void AddRect(const CRectMIF& rect) = 0; ///< With sides along the axes.
+    virtual void AddText(const CTextMIF& text) = 0; ///< A text in its rectangle.
 
     /// A line, or one section of a polyline; the sections of one object have equal attributes.
     virtual void AddPolyline(const CPolylineMIF& line) = 0;

@@ -50,7 +50,7 @@ public:
 
     /// Digits after the point of coordinates and angles, 4 at first, for what is written from now on.
     virtual void SetPrecision(int digits) = 0;
-    virtual int GetPrecision() const = 0;
+    virtual int GetPrecision() const = 0; ///< What `SetPrecision` set.
 
     /// Not written: `justify`, `spacing`, the label, size and background of the font.
     virtual bool AddText(const CTextMIF& text, const QString& layer) = 0;

@@ -11,7 +11,7 @@ namespace VelorExchange::mif {
 struct CPointMIF : CAttributeHolderMIF
 {
     CPoint2D position; ///< File units.
-    CSymbolMIF symbol;
+    CSymbolMIF symbol; ///< How it is drawn.
 };
 
 } // namespace VelorExchange::mif

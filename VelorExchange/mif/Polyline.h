@@ -13,7 +13,7 @@ namespace VelorExchange::mif {
 struct CPolylineMIF : CAttributeHolderMIF
 {
     std::vector<CPoint2D> points; ///< File units. From a file they may be any number, also none.
-    CPenMIF pen{1, 2, 0};
+    CPenMIF pen{1, 2, 0}; ///< How the line is drawn; thin, solid and black without a clause.
     bool smooth = false; ///< To be drawn as a curve. Not written.
 };
 

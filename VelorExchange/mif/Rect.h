@@ -13,8 +13,8 @@ struct CRectMIF : CAttributeHolderMIF
 {
     CPoint2D corner1; ///< File units.
     CPoint2D corner2; ///< The corner opposite to it.
-    CPenMIF pen{1, 2, 0};
-    CBrushMIF brush{2, 0xFFFFFF, 0};
+    CPenMIF pen{1, 2, 0}; ///< How the line is drawn; thin, solid and black without a clause.
+    CBrushMIF brush{2, 0xFFFFFF, 0}; ///< How it is filled; solid and black without a clause.
 };
 
 } // namespace VelorExchange::mif

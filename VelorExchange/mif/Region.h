@@ -14,7 +14,7 @@ namespace VelorExchange::mif {
 struct CRegionMIF : CAttributeHolderMIF
 {
     std::vector<CPoint2D> points; ///< File units, three at least. Closed or not, as in the file.
-    CBrushMIF brush{1, 0xFFFFFF, 0};
+    CBrushMIF brush{1, 0xFFFFFF, 0}; ///< How it is filled; not at all without a clause.
     CPenMIF pen{1, 2, 0}; ///< Not written: regions go out with the pen (1, 1, 0).
     CPoint2D center; ///< File units; (0, 0) where the file has none. Not written.
 };

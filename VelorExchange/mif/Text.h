@@ -17,7 +17,7 @@ struct CTextMIF : CAttributeHolderMIF
     CPoint2D corner2; ///< The corner opposite to it.
     double angle = 0.0; ///< Radians, counter-clockwise.
     double spacing = 0.0; ///< Distance of the lines, in line heights.
-    CFontMIF font;
+    CFontMIF font; ///< How it is written.
     int justify = 0; ///< 0 left, 1 centre, 2 right.
     int labelArrow = 0; ///< 1 if a line with an arrow leads to `labelPoint`, else 0.
     CPoint2D labelPoint; ///< File units.

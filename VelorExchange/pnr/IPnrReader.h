@@ -26,10 +26,10 @@ public:
     class VELOREXCHANGE_EXPORT IContext
     {
     public:
-        virtual void AddText(CTextObject* text) = 0;
-        virtual void AddSquare(CSquareObject* square) = 0;
-        virtual void AddLine(CLineObject* line) = 0;
-        virtual void AddPoint(CPointObject* point) = 0;
+        virtual void AddText(CTextObject* text) = 0; ///< A text, never null.
+        virtual void AddSquare(CSquareObject* square) = 0; ///< An area, never null.
+        virtual void AddLine(CLineObject* line) = 0; ///< A line, never null.
+        virtual void AddPoint(CPointObject* point) = 0; ///< A point or vector, never null.
 
     protected:
         ~IContext() = default;

@@ -54,7 +54,9 @@ public:
     {
     public:
         virtual ~IContext();
+        /// For vertices of contours in space.
         virtual CPoint3D Transform3D(const CPoint3D& point) = 0;
+        /// For vertices of contours in the plan.
         virtual CPoint2D Transform2D(const CPoint2D& point) = 0;
     };
 
@@ -68,7 +70,7 @@ public:
 
     /// Decimals of the numbers in the text form, 4 unless told. The binary form has no use for it.
     virtual void SetPrecision(int digits) = 0;
-    virtual int GetPrecision() const = 0;
+    virtual int GetPrecision() const = 0; ///< What `SetPrecision` set.
 
     /// Takes the target's name, which is not opened before `Close`. False if there is no place for
     /// temporary files.
@@ -84,9 +86,9 @@ public:
 
     /// The binary writer returns true also when the disk is full, which `Close` then tells.
     virtual bool WriteText(CTextObject* text) = 0;
-    virtual bool WriteSquare(CSquareObject* square) = 0;
-    virtual bool WriteLine(CLineObject* line) = 0;
-    virtual bool WritePoint(CPointObject* point) = 0;
+    virtual bool WriteSquare(CSquareObject* square) = 0; ///< See `WriteText`.
+    virtual bool WriteLine(CLineObject* line) = 0; ///< See `WriteText`.
+    virtual bool WritePoint(CPointObject* point) = 0; ///< See `WriteText`.
 
 protected:
     /// `conversion` may be null: then coordinates are written as they are.

@@ -27,6 +27,7 @@ struct VELOREXCHANGE_EXPORT CAbstractVertexHolder
 template <class T>
 struct CVertexHolderT : CAbstractVertexHolder
 {
+    /// The size of `vertices`.
     quint32 Count() const override { return static_cast<quint32>(vertices.size()); }
 
     std::vector<T> vertices; ///< Free to be filled and changed by the host.

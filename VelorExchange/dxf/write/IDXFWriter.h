@@ -68,7 +68,9 @@ public:
 
     protected:
         IContext() = default;
+        /// Copies of a context belong to whoever made them.
         IContext(const IContext&) = default;
+        /// Takes over `writer` like any other value.
         IContext& operator=(const IContext&) = default;
         ~IContext() = default;
     };
@@ -175,6 +177,7 @@ public:
     virtual QString MakeImageName(const QString& name) const = 0;
 
 protected:
+    /// `host` stays the host's, can be null, and outlives the writer.
     explicit IDXFWriter(IContext* host) : context(host) { }
 };
 
