@@ -43,9 +43,9 @@ public:
 private:
     struct CDeleter
     {
-        void operator()(VelorExchange::dxf::IDXFWriter* writer) const
+        void operator()(VelorExchange::dxf::IDXFWriter* made) const
         {
-            VelorExchange::dxf::DeleteDXFWriter(writer);
+            VelorExchange::dxf::DeleteDXFWriter(made);
         }
     };
 
