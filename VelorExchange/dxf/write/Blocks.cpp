@@ -22,6 +22,7 @@ bool CDXFWriterImpl::AddInsert(const CInsertDXF& record)
     if (record.name.isEmpty()) {
         return false;
     }
+    TakeScale();
     const CPoint3D point = Placed(record.point);
     const double rotation = DegreesOf(kTwoPi - record.rotation);
     std::vector<CTextPlan> plans(record.attributes.size());

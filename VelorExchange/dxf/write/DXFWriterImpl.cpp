@@ -115,9 +115,10 @@ CPoint3D CDXFWriterImpl::Placed(const CPoint3D& point) const
     return {placed.x, placed.y, point.z};
 }
 
-double CDXFWriterImpl::Scaled(double length) const
+// Asked for once an operation, before anything is written: the checks and the file see one factor.
+void CDXFWriterImpl::TakeScale()
 {
-    return context != nullptr ? length * context->GetScale() : length;
+    scale = context != nullptr ? context->GetScale() : 1.0;
 }
 
 void CDXFWriterImpl::Count(const QString& kind)

@@ -105,7 +105,8 @@ private:
     void StartFile(QTemporaryFile& file);
     CPoint2D Placed(const CPoint2D& point) const;
     CPoint3D Placed(const CPoint3D& point) const;
-    double Scaled(double length) const;
+    void TakeScale();
+    double Scaled(double length) const { return length * scale; }
     void Count(const QString& kind);
 
     // Rewrite.cpp
@@ -189,6 +190,7 @@ private:
     int version = 1018;
     int precision = 6;
     double tolerance = 0.0;
+    double scale = 1.0; // of the operation in hand
     int nextHandle = 0;
     std::map<QString, int, CCaseless> imageDefs;
     std::map<QString, int> mlineStyles;

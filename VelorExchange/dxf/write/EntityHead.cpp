@@ -98,6 +98,7 @@ void CDXFWriterImpl::WriteLineWeight(double weight)
 // What has to hold before the head of a record can be written.
 bool CDXFWriterImpl::PlanHead(const CEntityDXF& record, CLineStylePlan& plan)
 {
+    TakeScale();
     return AreFinite(Scaled(record.lineWeight)) && PlanLineStyle(record.lineStyle, plan);
 }
 

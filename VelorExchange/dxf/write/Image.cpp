@@ -50,6 +50,7 @@ bool CDXFWriterImpl::AddImage(const CImageDXF& record)
     if (record.name.isEmpty()) {
         return false;
     }
+    TakeScale();
     const CPoint2D origin = Placed(record.origin);
     const CPoint2D size{Scaled(record.scaleX), Scaled(record.scaleY)};
     const double cosine = std::cos(record.rotation);

@@ -74,6 +74,7 @@ CDashes DashesOf(const std::vector<CLineElementDXF>& pattern)
 
 int CDXFWriterImpl::AddLineStyle(const CLineStyleDXF& style)
 {
+    TakeScale();
     CLineStylePlan plan;
     if (!PlanLineStyle(style, plan)) {
         return kNoHandle;

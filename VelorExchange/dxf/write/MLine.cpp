@@ -92,6 +92,7 @@ bool CDXFWriterImpl::AddMLine(const CMLineDXF& record)
     }
     std::vector<CJoint> joints;
     std::vector<CLineTypePlan> lineTypes;
+    TakeScale();
     if (!PlanJoints(record, joints) || !PlanLineTypes(style, lineTypes)) {
         return false;
     }

@@ -47,8 +47,8 @@ bool CDXFWriterImpl::AddPolyline(const CLWPolylineDXF& record)
     const std::vector<CVertexDXF>& vertices = record.vertices;
     std::vector<CPoint3D> placed;
     CLineStylePlan plan;
-    if (vertices.empty() || !PlaceVertices(vertices, placed)
-        || !AreFinite(Scaled(record.width), record.elevation) || !PlanHead(record, plan))
+    if (vertices.empty() || !PlaceVertices(vertices, placed) || !PlanHead(record, plan)
+        || !AreFinite(Scaled(record.width), record.elevation))
     {
         return false;
     }
@@ -71,6 +71,7 @@ bool CDXFWriterImpl::Add3DPolyline(const CPolylineDXF& record)
 {
     const std::vector<CVertexDXF>& vertices = record.vertices;
     std::vector<CPoint3D> placed;
+    TakeScale();
     if (vertices.empty() || !PlaceVertices(vertices, placed)
         || !AreFinite(Scaled(record.lineWeight))) {
         return false;

@@ -70,6 +70,7 @@ const CName& CDXFWriterImpl::Layer(const QString& name, bool visible, bool locke
 
 int CDXFWriterImpl::AddTextStyle(const CTextStyleDXF& style, bool shapeFile)
 {
+    TakeScale();
     if (!CanAddTextStyle(style)) {
         return kNoHandle;
     }

@@ -71,6 +71,7 @@ void CDXFWriterImpl::WriteTextBody(const CTextDXF& record, const CTextPlan& plan
 
 bool CDXFWriterImpl::AddText(const CTextDXF& record)
 {
+    TakeScale();
     CTextPlan plan;
     if (record.text.isEmpty() || !PlanText(record, plan)) {
         return false;
@@ -84,6 +85,7 @@ bool CDXFWriterImpl::AddText(const CTextDXF& record)
 
 bool CDXFWriterImpl::AddAttribute(const CAttribDXF& record, bool withValue)
 {
+    TakeScale();
     CTextPlan plan;
     if (!PlanText(record, plan)) {
         return false;
@@ -105,6 +107,7 @@ void CDXFWriterImpl::WriteAttribute(const CAttribDXF& record, const CTextPlan& p
 
 bool CDXFWriterImpl::AddMText(const CMTextDXF& record)
 {
+    TakeScale();
     const CPoint2D position = Placed(record.position);
     const double height = Scaled(record.height);
     const CPoint2D direction = DirectionOf(record.rotation);
