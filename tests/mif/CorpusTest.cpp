@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "tests/support/Corpus.h"
 #include "tests/support/MifRecorder.h"
 #include "VelorExchange/mif/MIFReader_p.h"
 
@@ -11,11 +12,9 @@ using namespace VelorExchange::test;
 
 namespace {
 
-const QString kCorpus = QStringLiteral(VELOREXCHANGE_CORPUS);
-
 QJsonObject ExpectedFiles()
 {
-    QFile file(kCorpus + QStringLiteral("/expected.json"));
+    QFile file(CorpusFolder() + QStringLiteral("/expected.json"));
     if (!file.open(QIODevice::ReadOnly)) {
         return {};
     }
@@ -30,7 +29,7 @@ void ExpectAsTold(const QString& name, const QJsonObject& expected)
     SCOPED_TRACE(name.toStdString());
     CMifRecorder recorder;
     mif::CMIFReader reader(&recorder);
-    const QString path = kCorpus + QLatin1Char('/') + name;
+    const QString path = CorpusFolder() + QLatin1Char('/') + name;
     const bool result = reader.Read(path.left(path.size() - 4));
     EXPECT_EQ(result, expected.value(QStringLiteral("result")).toBool());
     std::map<std::string, int> counts;
@@ -50,7 +49,8 @@ TEST(Corpus, RealFilesGiveTheCallsTold)
 {
     const QJsonObject files = ExpectedFiles();
     if (files.isEmpty()) {
-        GTEST_SKIP() << "the collection of real files isn't there: " << VELOREXCHANGE_CORPUS;
+        GTEST_SKIP() << "the collection of real files isn't there: "
+                     << CorpusFolder().toStdString();
     }
     int seen = 0;
     for (auto it = files.begin(); it != files.end(); ++it) {

@@ -2,6 +2,7 @@
 #include "VelorExchange/Pnr.h"
 
 #include "PnrLocalCodec.h"
+#include "tests/support/Corpus.h"
 
 #include <QFileInfo>
 #include <QJsonArray>
@@ -13,6 +14,7 @@
 #include <limits>
 
 using namespace VelorExchange::pnr;
+using VelorExchange::test::CorpusFolder;
 
 namespace {
 
@@ -66,7 +68,7 @@ private:
 
 QJsonObject ExpectedOf(const QString& file)
 {
-    QFile json(QStringLiteral(VELOREXCHANGE_CORPUS "/expected.json"));
+    QFile json(CorpusFolder() + QStringLiteral("/expected.json"));
     if (!json.open(QIODevice::ReadOnly)) {
         return {};
     }
@@ -91,7 +93,7 @@ class PnrCorpus : public testing::TestWithParam<const char*>
 TEST_P(PnrCorpus, ReadsWhatTheFileIsKnownToHold)
 {
     const QString name = QLatin1String(GetParam());
-    const QString path = QStringLiteral(VELOREXCHANGE_CORPUS "/") + name;
+    const QString path = CorpusFolder() + QLatin1Char('/') + name;
     const QJsonObject expected = ExpectedOf(name);
     if (!QFileInfo::exists(path) || expected.isEmpty()) {
         GTEST_SKIP() << "the collection of real files is not here: " << path.toStdString();

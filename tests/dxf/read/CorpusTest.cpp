@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Real drawings of many programs, where they are at hand, against the counts expected of them.
+#include "tests/support/Corpus.h"
 #include "tests/support/DxfRecorder.h"
 
 #include <QJsonArray>
@@ -54,7 +55,7 @@ QJsonObject Observed(const QString& path)
 
 TEST(Corpus, EveryDrawingGivesTheExpectedCounts)
 {
-    const QString corpus = QStringLiteral(VELOREXCHANGE_CORPUS);
+    const QString corpus = CorpusFolder();
     QFile expectedFile(corpus + QStringLiteral("/expected.json"));
     if (!expectedFile.open(QIODevice::ReadOnly)) {
         GTEST_SKIP() << "the collection of real drawings is not here";

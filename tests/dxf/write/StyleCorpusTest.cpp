@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Style files from other people's projects, where a collection of them stands beside this tree.
+#include "tests/support/Corpus.h"
 #include "VelorExchange/dxf/write/StyleFiles.h"
 
 #include <QJsonArray>
@@ -10,6 +11,7 @@
 #include <map>
 
 using namespace VelorExchange::dxf;
+using VelorExchange::test::CorpusFolder;
 
 namespace {
 
@@ -17,14 +19,14 @@ namespace {
 std::map<QString, QJsonObject> FilesOf(const QString& family)
 {
     std::map<QString, QJsonObject> files;
-    QFile file(QStringLiteral(VELOREXCHANGE_CORPUS "/expected.json"));
+    QFile file(CorpusFolder() + QStringLiteral("/expected.json"));
     if (!file.open(QIODevice::ReadOnly)) {
         return files;
     }
     const QJsonObject all = QJsonDocument::fromJson(file.readAll()).object()[u"files"].toObject();
     for (const QString& name : all.keys()) {
         if (all[name].toObject()[u"family"].toString() == family) {
-            files[QStringLiteral(VELOREXCHANGE_CORPUS "/") + name] = all[name].toObject();
+            files[CorpusFolder() + QLatin1Char('/') + name] = all[name].toObject();
         }
     }
     return files;
@@ -90,7 +92,7 @@ TEST(StyleCorpus, LineTypesWithAShapeSourceAreAllFound)
         const QJsonObject runs = facts[u"reader_with_shapes"].toObject();
         for (const QString& shapes : runs.keys()) {
             std::list<CLineStyleDXF> styles;
-            GetLineStylesFromFile(path, styles, QStringLiteral(VELOREXCHANGE_CORPUS "/") + shapes);
+            GetLineStylesFromFile(path, styles, CorpusFolder() + QLatin1Char('/') + shapes);
             QJsonArray counts;
             for (const CLineStyleDXF& style : styles) {
                 counts.append(static_cast<int>(style.pattern.size()));
