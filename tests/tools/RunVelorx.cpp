@@ -8,6 +8,8 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <algorithm>
+#include <csignal>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -89,6 +91,56 @@ SRun RunVelorxOnTerminal(const std::vector<std::string>& arguments)
     run.exitCode = ExitCodeOf(child);
     run.out = ReadFile(folder.path + "/out");
     return run;
+}
+
+CRunningVelorx::CRunningVelorx(const std::vector<std::string>& arguments,
+                               const std::string& temporary)
+    : child(fork())
+{
+    if (child == 0) {
+        setenv("TMPDIR", temporary.c_str(), 1);
+        Redirect("/dev/null", STDOUT_FILENO);
+        Redirect("/dev/null", STDERR_FILENO);
+        Execute(arguments);
+    }
+}
+
+CRunningVelorx::~CRunningVelorx()
+{
+    if (IsAlive()) {
+        Send(SIGKILL);
+        EndingSignal();
+    }
+}
+
+bool CRunningVelorx::IsAlive()
+{
+    hasEnded = hasEnded || waitpid(child, &status, WNOHANG) == child;
+    return !hasEnded;
+}
+
+void CRunningVelorx::Send(int signal) const
+{
+    kill(child, signal);
+}
+
+int CRunningVelorx::EndingSignal()
+{
+    if (!hasEnded) {
+        waitpid(child, &status, 0);
+        hasEnded = true;
+    }
+    return WIFSIGNALED(status) ? WTERMSIG(status) : 0;
+}
+
+std::vector<std::string> NamesIn(const std::string& folder)
+{
+    std::vector<std::string> names;
+    for (const auto& entry : std::filesystem::directory_iterator(folder)) {
+        names.push_back(entry.path().filename().string());
+    }
+    std::sort(names.begin(), names.end());
+    return names;
 }
 
 namespace {

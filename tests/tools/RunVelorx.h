@@ -22,6 +22,34 @@ SRun RunVelorx(const std::vector<std::string>& arguments, const char* out = null
 /// Runs it with its standard error on a pseudo-terminal; `SRun::err` is what the terminal got.
 SRun RunVelorxOnTerminal(const std::vector<std::string>& arguments);
 
+/// A run of the program that is under way, with its output thrown away.
+class CRunningVelorx
+{
+public:
+    /// `temporary` is the folder that it takes for temporary files.
+    CRunningVelorx(const std::vector<std::string>& arguments, const std::string& temporary);
+    CRunningVelorx(const CRunningVelorx&) = delete;
+    CRunningVelorx& operator=(const CRunningVelorx&) = delete;
+    ~CRunningVelorx();
+
+    /// Whether it has not ended.
+    bool IsAlive();
+
+    /// Sends a signal.
+    void Send(int signal) const;
+
+    /// Waits for the end; the number of the signal that ended it, 0 if it ended by itself.
+    int EndingSignal();
+
+private:
+    int child = -1;
+    int status = 0;
+    bool hasEnded = false;
+};
+
+/// The names of what lies in a folder, in order.
+std::vector<std::string> NamesIn(const std::string& folder);
+
 /// A folder of the test's own that goes away with the object.
 class CTemporaryFolder
 {

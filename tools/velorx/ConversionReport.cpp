@@ -3,6 +3,7 @@
 
 #include "tools/velorx/TextTable.h"
 
+#include <QJsonArray>
 #include <QStringList>
 
 #include <algorithm>
@@ -15,15 +16,27 @@ namespace {
 using EAlign = CTextTable::EAlign;
 
 constexpr std::size_t kLayersShown = 5;
+constexpr int kBlocksColumn = 2;
 
+// Most sources have no blocks, and then there is no column for them.
 QString KindsText(const std::vector<SConvertedKind>& kinds)
 {
-    CTextTable table({EAlign::Left, EAlign::Right, EAlign::Right, EAlign::Right, EAlign::Left});
-    table.Add({QStringLiteral("Kind"), QStringLiteral("In the drawing"),
-               QStringLiteral("Inside blocks"), QStringLiteral("Written"), QStringLiteral("As")});
+    const bool hasBlocks = std::any_of(
+        kinds.begin(), kinds.end(), [](const SConvertedKind& kind) { return kind.inBlocks > 0; });
+    std::vector<EAlign> columns(hasBlocks ? 5 : 4, EAlign::Right);
+    columns.front() = columns.back() = EAlign::Left;
+    CTextTable table(columns);
+    const auto add = [hasBlocks, &table](QStringList cells) {
+        if (!hasBlocks) {
+            cells.removeAt(kBlocksColumn);
+        }
+        table.Add(cells);
+    };
+    add({QStringLiteral("Kind"), QStringLiteral("In the file"), QStringLiteral("Inside blocks"),
+         QStringLiteral("Written"), QStringLiteral("As")});
     for (const SConvertedKind& kind : kinds) {
-        table.Add({kind.name, QString::number(kind.inDrawing), QString::number(kind.inBlocks),
-                   QString::number(kind.written), kind.writtenAs});
+        add({kind.name, QString::number(kind.inDrawing), QString::number(kind.inBlocks),
+             QString::number(kind.written), kind.writtenAs});
     }
     return QStringLiteral("\nCarried over\n") + table.ToText();
 }
@@ -67,11 +80,51 @@ QString LossesText(const std::vector<SConversionLoss>& losses)
     return QStringLiteral("\nLost or changed\n") + table.ToText();
 }
 
+QJsonObject KindJson(const SConvertedKind& kind)
+{
+    return {{QStringLiteral("kind"), kind.name},
+            {QStringLiteral("in_drawing"), kind.inDrawing},
+            {QStringLiteral("in_blocks"), kind.inBlocks},
+            {QStringLiteral("written"), kind.written},
+            {QStringLiteral("as"), kind.writtenAs}};
+}
+
+QJsonObject LossJson(const SConversionLoss& loss)
+{
+    QJsonObject layers;
+    for (const auto& [layer, count] : loss.layers) {
+        layers.insert(layer, count);
+    }
+    return {{QStringLiteral("what"), loss.what},
+            {QStringLiteral("count"), loss.count},
+            {QStringLiteral("layers"), layers}};
+}
+
 } // namespace
 
 QString CConversionReport::ToText() const
 {
     return log + QLatin1Char('\n') + KindsText(kinds) + LossesText(losses) + RemarksText(remarks);
+}
+
+QJsonObject CConversionReport::ToJson() const
+{
+    QJsonArray kindRows;
+    for (const SConvertedKind& kind : kinds) {
+        kindRows.append(KindJson(kind));
+    }
+    QJsonArray lossRows;
+    for (const SConversionLoss& loss : losses) {
+        lossRows.append(LossJson(loss));
+    }
+    QJsonArray remarkRows;
+    for (const QString& remark : remarks) {
+        remarkRows.append(remark);
+    }
+    return {{QStringLiteral("kinds"), kindRows},
+            {QStringLiteral("losses"), lossRows},
+            {QStringLiteral("remarks"), remarkRows},
+            {QStringLiteral("log"), log}};
 }
 
 } // namespace velorx

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QJsonObject>
 #include <QString>
 #include <QtGlobal>
 
@@ -38,6 +39,9 @@ struct CConversionReport
 
     /// The report for people: lines that each end with a line feed.
     QString ToText() const;
+
+    /// The same for programs, under the keys "kinds", "losses", "remarks" and "log".
+    QJsonObject ToJson() const;
 };
 
 } // namespace velorx

@@ -11,17 +11,8 @@ namespace velorx {
 
 namespace {
 
-constexpr std::chrono::milliseconds kSilence{500};
 constexpr int kWidth = 40;
 constexpr int kAll = 100;
-constexpr char kWipe[] = "\r\033[K";
-
-// A bar that does not show is no reason to stop.
-void WriteToTerminal(const std::string& text)
-{
-    static_cast<void>(std::fputs(text.c_str(), stderr));
-    static_cast<void>(std::fflush(stderr));
-}
 
 } // namespace
 
@@ -45,7 +36,7 @@ void CProgressBar::SetPosition(qint64 position)
     }
     const int percent = static_cast<int>(std::min<qint64>(kAll, position * kAll / total));
     next = position + std::max<qint64>(1, total / kAll);
-    if (clock() - start >= kSilence) {
+    if (clock() - start >= kProgressSilence) {
         Draw(percent);
     }
 }
@@ -53,7 +44,7 @@ void CProgressBar::SetPosition(qint64 position)
 void CProgressBar::Finish()
 {
     if (shown) {
-        output(kWipe);
+        output(kWipeLine);
     }
 }
 
@@ -63,6 +54,13 @@ void CProgressBar::Draw(int percent)
     output("\r[" + std::string(filled, '#') + std::string(kWidth - filled, '.') + "] "
            + std::to_string(percent) + " %");
     shown = true;
+}
+
+// A bar that does not show is no reason to stop.
+void WriteToTerminal(const std::string& text)
+{
+    static_cast<void>(std::fputs(text.c_str(), stderr));
+    static_cast<void>(std::fflush(stderr));
 }
 
 bool IsTerminal()

@@ -9,6 +9,12 @@
 
 namespace velorx {
 
+/// Work that is done sooner shows no progress.
+constexpr std::chrono::milliseconds kProgressSilence{500};
+
+/// Takes a terminal to the start of its line and clears that.
+constexpr char kWipeLine[] = "\r\033[K";
+
 /// A bar that shows how far a read is, on one line of a terminal.
 ///
 /// It appears only once the read has taken half a second, so that quick work stays silent, moves by
@@ -39,6 +45,9 @@ private:
 
 /// Whether standard error is a terminal, where a bar makes sense.
 bool IsTerminal();
+
+/// Writes to standard error at once.
+void WriteToTerminal(const std::string& text);
 
 /// A bar on standard error.
 CProgressBar TerminalProgressBar();

@@ -20,14 +20,15 @@ constexpr SWay kWays[] = {
 
 } // namespace
 
-CConversion FindConversion(const SFamily& from, const SFamily& to)
+QString Convert(std::string_view from, std::string_view to, const SConversionJob& job,
+                CConversionReport& report)
 {
     for (const SWay& way : kWays) {
-        if (way.from == from.name && way.to == to.name) {
-            return way.conversion;
+        if (way.from == from && way.to == to) {
+            return way.conversion(job, report);
         }
     }
-    return nullptr;
+    return ConvertThroughFeatures(from, to, job, report);
 }
 
 } // namespace velorx

@@ -2,7 +2,6 @@
 #pragma once
 
 #include "tools/velorx/ConversionReport.h"
-#include "tools/velorx/info/Family.h"
 #include "VelorExchange/dxf/records/IDXFProgress.h"
 
 #include <QString>
@@ -34,8 +33,11 @@ struct SConversionJob
 /// cannot be written throws `FileError`.
 using CConversion = QString (*)(const SConversionJob& job, CConversionReport& report);
 
-/// The way from one family to another, null if there is none.
-CConversion FindConversion(const SFamily& from, const SFamily& to);
+/// Does a job, by the families' own way from one to the other where there is one, otherwise through the
+/// stream of features. `from` and `to` are names of families, "SXF text" as a target only. Can be called on
+/// several threads at once.
+QString Convert(std::string_view from, std::string_view to, const SConversionJob& job,
+                CConversionReport& report);
 
 /// Any family to any other through the stream of features. `from` and `to` are names of families.
 QString ConvertThroughFeatures(std::string_view from, std::string_view to,

@@ -1,15 +1,24 @@
 // SPDX-License-Identifier: MIT
 #include "tools/velorx/convert/ConvertCommand.h"
 
+#include "tools/velorx/convert/ConversionPlan.h"
+#include "tools/velorx/convert/ConversionSummary.h"
+#include "tools/velorx/convert/Interruption.h"
 #include "tools/velorx/convert/TargetFile.h"
+#include "tools/velorx/convert/TargetFolder.h"
+#include "tools/velorx/convert/TargetPlace.h"
+#include "tools/velorx/FileCount.h"
 #include "tools/velorx/HostCodec.h"
+#include "tools/velorx/info/Family.h"
 #include "tools/velorx/Output.h"
 #include "tools/velorx/ProgressBar.h"
-#include "VelorExchange/foundation/FileError.h"
 
 #include <QFile>
-#include <QFileInfo>
 
+#include <algorithm>
+#include <csignal>
+#include <filesystem>
+#include <memory>
 #include <optional>
 #include <utility>
 
@@ -18,6 +27,7 @@ namespace velorx {
 namespace {
 
 constexpr int kMostDecimals = 15;
+constexpr int kMostThreads = 256;
 
 /// A version of drawings as people call it, and its number.
 constexpr std::pair<const char*, int> kVersions[] = {{"2000", 1015}, {"2004", 1018}};
@@ -32,107 +42,186 @@ int VersionNumber(const std::string& name)
     return SConversionOptions().drawingVersion;
 }
 
-// The message names the file as the shell handed it over, not as the library decoded it.
-std::string WriteFailure(const VelorExchange::FileError& error)
+/// The parser knows one list of names where people see two things in it.
+class CUsage final : public CLI::Formatter
 {
-    switch (error.error) {
-    case QFileDevice::OpenError:
-    case QFileDevice::PermissionsError:
-        return "a file for it cannot be opened";
-    default:
-        return "writing failed, perhaps because the disk is full";
+public:
+    std::string make_usage(const CLI::App* /*app*/, std::string name) const override
+    {
+        return "Usage: " + name + " [OPTIONS] IN... OUT\n";
     }
+};
+
+bool IsSamePath(const std::string& one, const std::string& other)
+{
+    std::error_code error;
+    const auto path = std::filesystem::weakly_canonical(one, error);
+    return !error && path == std::filesystem::weakly_canonical(other, error) && !error;
+}
+
+bool IsInPlan(const std::string& name, const SConversionPlan& plan)
+{
+    return std::any_of(plan.files.begin(), plan.files.end(), [&name](const SPlannedFile& file) {
+        return IsSamePath(name, file.source) || IsSamePath(name, file.target);
+    });
 }
 
 } // namespace
 
 CLI::App* CConvertCommand::AddTo(CLI::App& app)
 {
-    CLI::App* command = app.add_subcommand("convert", "Write a file again, or in another format");
-    command->add_option("IN", source, "The file to read: " + KnownExtensions().toStdString())
-        ->required()
-        ->type_name("");
-    command->add_option("OUT", target, "The file to write; its ending tells the format")
-        ->required()
-        ->type_name("");
-    command->add_option("--version", version, "Version of a drawing to write")
-        ->type_name("2000|2004")
-        ->check(CLI::IsMember({"2000", "2004"}), "", "")
-        ->capture_default_str();
-    command->add_option("--precision", precision, "Decimals of numbers in a drawing, 0 to 15")
-        ->type_name("N")
-        ->check(CLI::Range(0, kMostDecimals), "", "")
-        ->capture_default_str();
-    command->add_flag("--force", force, "Replace OUT if it exists");
+    CLI::App* command = app.add_subcommand("convert", "Write files again, or in another format");
+    command->formatter(std::make_shared<CUsage>());
+    AddFileOptions(*command);
+    AddValueOptions(*command);
     return command;
 }
 
-QString CConvertCommand::FindWay(CConversion& conversion) const
+void CConvertCommand::AddFileOptions(CLI::App& command)
 {
-    QFile probe(PathFromBytes(source));
-    if (QFileInfo(probe.fileName()).isDir()) {
-        return QStringLiteral("it is a folder, not a file");
-    }
-    if (!probe.open(QIODevice::ReadOnly)) {
-        return QStringLiteral("it cannot be opened: ") + probe.errorString();
-    }
-    const SFamily* from = FindFamily(probe.fileName(), probe.read(kHeadSize));
-    if (from == nullptr) {
-        return QStringLiteral("it is of no kind that velorx reads (%1)").arg(KnownExtensions());
-    }
-    const SFamily* to = FindFamily(PathFromBytes(target), QByteArray());
-    conversion = to != nullptr ? FindConversion(*from, *to) : nullptr;
-    if (conversion == nullptr) {
-        return QStringLiteral("a %1 cannot be written under a name like that of the target")
-            .arg(QLatin1String(from->description));
-    }
-    return {};
+    command
+        .add_option("IN", names,
+                    "The files or folders to read (" + KnownExtensions().toStdString()
+                        + "), and last the file or folder to write")
+        ->required()
+        ->expected(2, -1)
+        ->type_name("")
+        ->option_text("... OUT");
+    command.add_option("--to", extension, "Format to write, where the ending of OUT does not tell")
+        ->type_name("dxf|mif|sxf|txt")
+        ->check(CLI::IsMember(TargetExtensions(), CLI::ignore_case), "", "");
+    command
+        .add_option("--report", reportName,
+                    "Write the report into a file too, as JSON if its name ends in .json")
+        ->type_name("FILE");
+    command.add_flag("--force", settings.mayReplace, "Replace files that exist");
+    command.add_flag("--dry-run", settings.isTrial, "Do and tell all, but leave no target");
+    command.add_flag("--quiet", quiet, "Print nothing but errors");
 }
 
-QString CConvertCommand::Convert(CConversion conversion, const std::string& file,
-                                 CConversionReport& report) const
+void CConvertCommand::AddValueOptions(CLI::App& command)
 {
-    SConversionJob job;
-    job.source = PathFromBytes(source);
-    job.target = PathFromBytes(file);
-    job.targetName = QString::fromUtf8(target.c_str());
-    job.options = {VersionNumber(version), precision};
-    std::optional<CProgressBar> bar;
-    if (IsTerminal()) {
-        bar.emplace(TerminalProgressBar());
-        job.progress = &*bar;
-    }
-    return conversion(job, report);
+    command.add_option("--version", version, "Version of a drawing to write")
+        ->type_name("2000|2004")
+        ->check(CLI::IsMember({"2000", "2004"}), "", "")
+        ->capture_default_str();
+    command.add_option("--precision", settings.options.precision, "Decimals of numbers, 0 to 15")
+        ->type_name("N")
+        ->check(CLI::Range(0, kMostDecimals), "", "")
+        ->capture_default_str();
+    command
+        .add_option("--chord", settings.options.chord,
+                    "Curves may be off by this much where they become chords, in units of IN")
+        ->type_name("D")
+        ->check(CLI::PositiveNumber, "", "")
+        ->capture_default_str();
+    command
+        .add_option("--scale", settings.options.scale,
+                    "Scale 1:N of SXF maps, where IN tells none or another is wanted")
+        ->type_name("N")
+        ->check(CLI::PositiveNumber, "", "");
+    command.add_option("--jobs", settings.threads, "Convert so many files at once")
+        ->type_name("N")
+        ->check(CLI::Range(1, kMostThreads), "", "")
+        ->capture_default_str();
 }
 
 EExit CConvertCommand::Run()
 {
-    CConversion conversion = nullptr;
-    const QString problem = FindWay(conversion);
-    if (!problem.isEmpty()) {
-        PrintError("cannot convert " + source + ": " + problem.toStdString());
+    settings.options.drawingVersion = VersionNumber(version);
+    const std::vector<std::string> sources(names.begin(), names.end() - 1);
+    const SConversionPlan plan = PlanConversion(sources, names.back(), extension);
+    if (!plan.usageFault.empty()) {
+        PrintError(plan.usageFault);
+        return kExitUsage;
+    }
+    // A file that may not grow any more is then a file that cannot be written, not the end.
+    std::signal(SIGXFSZ, SIG_IGN);
+    CTemporaries temporaries;
+    const CInterruption interruption([&temporaries] { temporaries.Abandon(); });
+    return RunPlan(plan, temporaries);
+}
+
+EExit CConvertCommand::RunPlan(const SConversionPlan& plan, CTemporaries& temporaries)
+{
+    STargetPlace place;
+    std::string fault;
+    if (!reportName.empty()) {
+        fault = IsInPlan(reportName, plan) ? "it is another file of this run"
+                                           : FindPlace(reportName, settings.mayReplace, place);
+    }
+    if (!fault.empty()) {
+        PrintError("cannot write " + reportName + ": " + fault);
         return kExitFailed;
     }
-    CTargetFile file(target);
-    std::string failure = file.Begin(force);
-    CConversionReport report;
-    if (failure.empty()) {
-        try {
-            const QString unread = Convert(conversion, file.Temporary(), report);
-            if (!unread.isEmpty()) {
-                PrintError("cannot convert " + source + ": " + unread.toStdString());
-                return kExitFailed;
-            }
-            failure = file.Finish();
-        } catch (const VelorExchange::FileError& error) {
-            failure = WriteFailure(error);
+    CTargetFolder folder(plan.folder);
+    fault = folder.Begin(settings.isTrial);
+    if (!fault.empty()) {
+        PrintError("cannot write " + plan.folder + ": " + fault);
+        return kExitFailed;
+    }
+    const std::vector<SConvertedFile> files = ConvertAll(plan, temporaries);
+    for (const SConvertedFile& file : files) {
+        if (!file.error.empty()) {
+            PrintError(file.error);
         }
     }
-    if (!failure.empty()) {
-        PrintError("cannot write " + target + ": " + failure);
-        return kExitFailed;
+    const bool isDone = std::all_of(files.begin(), files.end(),
+                                    [](const SConvertedFile& file) { return file.error.empty(); });
+    return Tell(files, temporaries) && isDone ? kExitDone : kExitFailed;
+}
+
+std::vector<SConvertedFile> CConvertCommand::ConvertAll(const SConversionPlan& plan,
+                                                        CTemporaries& temporaries)
+{
+    const bool isShown = IsTerminal() && !quiet;
+    if (plan.files.size() == 1) {
+        std::optional<CProgressBar> bar;
+        if (isShown) {
+            bar.emplace(TerminalProgressBar());
+        }
+        return {ConvertFile(plan.files.front(), *plan.family, settings, temporaries,
+                            bar ? &*bar : nullptr)};
     }
-    return Print(report.ToText().toUtf8()) ? kExitDone : kExitFailed;
+    CFileCount count = TerminalFileCount(plan.files.size());
+    std::vector<SConvertedFile> files =
+        ConvertFiles(plan, settings, temporaries, [isShown, &count] {
+            if (isShown) {
+                count.Add();
+            }
+        });
+    count.Finish();
+    return files;
+}
+
+bool CConvertCommand::Tell(const std::vector<SConvertedFile>& files,
+                           CTemporaries& temporaries) const
+{
+    const std::string fault = reportName.empty() ? "" : WriteReport(files, temporaries);
+    if (!fault.empty()) {
+        PrintError("cannot write " + reportName + ": " + fault);
+    }
+    const bool hasText = files.size() > 1 || files.front().error.empty();
+    const bool isPrinted = quiet || !hasText || Print(SummaryText(files));
+    return isPrinted && fault.empty();
+}
+
+std::string CConvertCommand::WriteReport(const std::vector<SConvertedFile>& files,
+                                         CTemporaries& temporaries) const
+{
+    CTargetFile target(reportName, temporaries);
+    const std::string fault = target.Begin(settings.mayReplace);
+    if (!fault.empty()) {
+        return fault;
+    }
+    const bool isJson = std::filesystem::path(reportName).extension() == ".json";
+    const QByteArray text = isJson ? SummaryJson(files) : SummaryText(files);
+    QFile file(PathFromBytes(target.WorkPath()));
+    if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size() || !file.flush()) {
+        return file.errorString().toStdString();
+    }
+    file.close();
+    return target.Finish();
 }
 
 } // namespace velorx

@@ -2,13 +2,15 @@
 #pragma once
 
 #include "tools/velorx/Command.h"
-#include "tools/velorx/convert/Conversion.h"
+#include "tools/velorx/convert/ConversionRun.h"
 
 #include <string>
+#include <vector>
 
 namespace velorx {
 
-/// `velorx convert IN OUT`: reads a file and writes it again, in the family that the second name tells.
+/// `velorx convert IN... OUT`: reads files and writes them again, in the family that the last name or `--to`
+/// tells.
 class CConvertCommand final : public ICommand
 {
 public:
@@ -16,15 +18,20 @@ public:
     EExit Run() override;
 
 private:
-    QString FindWay(CConversion& conversion) const;
-    QString Convert(CConversion conversion, const std::string& target,
-                    CConversionReport& report) const;
+    void AddFileOptions(CLI::App& command);
+    void AddValueOptions(CLI::App& command);
+    EExit RunPlan(const SConversionPlan& plan, CTemporaries& temporaries);
+    std::vector<SConvertedFile> ConvertAll(const SConversionPlan& plan, CTemporaries& temporaries);
+    bool Tell(const std::vector<SConvertedFile>& files, CTemporaries& temporaries) const;
+    std::string WriteReport(const std::vector<SConvertedFile>& files,
+                            CTemporaries& temporaries) const;
 
-    std::string source; ///< As the shell handed it over.
-    std::string target; ///< As the shell handed it over.
+    std::vector<std::string> names; ///< As the shell handed them over, the target last.
+    std::string extension; ///< Behind `--to`.
     std::string version = "2004";
-    int precision = SConversionOptions().precision;
-    bool force = false;
+    std::string reportName; ///< As the shell handed it over.
+    SConversionSettings settings;
+    bool quiet = false;
 };
 
 } // namespace velorx

@@ -5,6 +5,7 @@
 #include "tools/velorx/formats/DxfContent.h"
 #include "tools/velorx/formats/DxfSurvey.h"
 #include "tools/velorx/formats/DxfTally.h"
+#include "tools/velorx/info/Family.h"
 #include "VelorExchange/foundation/ExportLog.h"
 
 #include <QFile>

@@ -10,8 +10,9 @@ namespace velorx {
 /// What a target is to be.
 struct STargetOptions
 {
-    QString
-        path; ///< A file that exists and is empty, or for a folder of MIF pairs: an empty folder.
+    /// A file that exists and is empty. For a MIF pair it ends in ".mif" in any case, lies in a folder of
+    /// its own, and the other file goes beside it; for a folder of pairs it is an empty folder.
+    QString path;
     QString name; ///< What it is called in the end, for the report.
     int drawingVersion = 1018; ///< 1015 or 1018, for drawings.
     int precision = 6; ///< Decimals of numbers in text formats.

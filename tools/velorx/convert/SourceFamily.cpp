@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: MIT
+#include "tools/velorx/convert/SourceFamily.h"
+
+#include "tools/velorx/convert/TargetFamily.h"
+#include "tools/velorx/HostCodec.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+#include <cstring>
+
+namespace velorx {
+
+namespace {
+
+constexpr char kPlainText[] = "txt";
+
+} // namespace
+
+std::string FindSourceFamily(const std::string& path, const SFamily*& family)
+{
+    QFile probe(PathFromBytes(path));
+    if (QFileInfo(probe.fileName()).isDir()) {
+        return "it is a folder, not a file";
+    }
+    if (!probe.open(QIODevice::ReadOnly)) {
+        return "it cannot be opened: " + probe.errorString().toStdString();
+    }
+    family = FindFamily(probe.fileName(), probe.read(kHeadSize));
+    if (family == nullptr) {
+        return "it is of no kind that velorx reads (" + KnownExtensions().toStdString() + ')';
+    }
+    // What can be converted can be written as well.
+    if (FindTargetFamily(family->extension) == nullptr) {
+        return std::string("a file of the kind \"") + family->description
+            + "\" cannot be converted";
+    }
+    return {};
+}
+
+bool IsConvertible(const std::string& path)
+{
+    const STargetFamily* told = TargetFamilyOf(path);
+    if (told == nullptr || std::strcmp(told->extension, kPlainText) != 0) {
+        return told != nullptr;
+    }
+    const SFamily* family = nullptr;
+    return FindSourceFamily(path, family).empty();
+}
+
+} // namespace velorx
