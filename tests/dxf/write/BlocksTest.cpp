@@ -114,6 +114,38 @@ TEST(Blocks, ScaleOfOneWithinTheToleranceIsLeftOut)
     EXPECT_EQ(ValuesOf(drawing.EntityTags(), 42), std::vector<std::string>{"0.99"});
 }
 
+TEST(Blocks, ScaleThatDiffersByTheWholeToleranceIsWritten)
+{
+    CDrawing drawing;
+    drawing->SetPrecision(0); // the tolerance is 1
+    CInsertDXF insert = InsertOf("a");
+    insert.scaleX = 2;
+    insert.scaleY = 0;
+    drawing->AddInsert(insert);
+    EXPECT_EQ(ValuesOf(drawing.EntityTags(), 41), std::vector<std::string>{"2"});
+    EXPECT_EQ(ValuesOf(drawing.EntityTags(), 42), std::vector<std::string>{"0"});
+}
+
+TEST(Blocks, InsertAndItsAttributesPassThroughTheContext)
+{
+    CTestContext context;
+    CDrawing drawing(1018, &context);
+    CInsertDXF insert = InsertOf("a");
+    insert.point = {1, 2, 3};
+    insert.scaleX = 4;
+    CAttribDXF attribute;
+    attribute.position = {5, 6};
+    attribute.height = 7;
+    insert.attributes = {attribute};
+    drawing->AddInsert(insert);
+    const CTags tags = drawing.EntityTags();
+    EXPECT_EQ(ValuesOf(tags, 10), (std::vector<std::string>{"101.000000", "105.000000"}));
+    EXPECT_EQ(ValuesOf(tags, 20), (std::vector<std::string>{"202.000000", "206.000000"}));
+    EXPECT_EQ(ValuesOf(tags, 30), (std::vector<std::string>{"3.000000", "0.000000"}));
+    EXPECT_EQ(ValuesOf(tags, 41), (std::vector<std::string>{"4.000000", "1.000000"}));
+    EXPECT_EQ(ValuesOf(tags, 40), std::vector<std::string>{"14.000000"});
+}
+
 TEST(Blocks, InsertCarriesItsAttributesAndTheirEnd)
 {
     CDrawing drawing;

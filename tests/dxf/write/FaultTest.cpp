@@ -202,6 +202,18 @@ TEST(Fault, FileThatStopsGrowingAtAnyByte)
     }
 }
 
+TEST(Fault, PartOfTheFileStaysOnTheDisk)
+{
+    const CDrawing drawing;
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("a.dxf"));
+    {
+        const CFileSizeLimit limit(3000);
+        EXPECT_TRUE(FaultOf([&] { drawing->Rewrite(path); }).isThrown);
+    }
+    EXPECT_EQ(QFile(path).size(), 3000);
+}
+
 TEST(Fault, TemporaryFileThatStopsGrowingEndsTheElement)
 {
     CDrawing drawing;

@@ -149,6 +149,47 @@ TEST(Hatch, OutlineIsTransformedBeforeVerticesAreCompared)
               (std::vector<std::string>{"0.000000", "100.000000", "103.000000", "100.000000"}));
 }
 
+TEST(Hatch, PatternStandsAsStoredButForItsOrigin)
+{
+    CTestContext context;
+    CDrawing drawing(1018, &context);
+    CHatchDXF hatch = HatchOf(kTriangle);
+    hatch.scale = 3;
+    CHatchLineDXF line;
+    line.baseX = 10;
+    line.baseY = 20;
+    line.offsetX = -0.5;
+    line.offsetY = 0.25;
+    line.dashes = {0.75};
+    hatch.style.lines = {line};
+    drawing->AddHatch(hatch);
+    const std::string entities = drawing.Entities();
+    EXPECT_EQ(entities.substr(entities.find("41 ")),
+              "41 3.000000\n77 0\n78 1\n53 0.000000\n43 111.000000\n44 221.000000\n"
+              "45 -0.500000\n46 0.250000\n79 1\n49 0.750000\n47 1.000000\n98 0\n");
+}
+
+TEST(Hatch, HolesPassThroughTheContext)
+{
+    CTestContext context;
+    CDrawing drawing(1018, &context);
+    CHatchDXF hatch = HatchOf(kTriangle);
+    hatch.markedBoundaries = {{{1, 2, 0}, {2, 1, 0}}};
+    drawing->AddHatch(hatch);
+    EXPECT_EQ(Values(drawing, 10).at(4), "101.000000");
+    EXPECT_EQ(Values(drawing, 20).at(4), "202.000000");
+    EXPECT_EQ(Values(drawing, 93), (std::vector<std::string>{"3", "2"}));
+}
+
+TEST(Hatch, PatternNameHoldsNoLetterThatTheCodePageLacks)
+{
+    CDrawing drawing;
+    CHatchDXF hatch = HatchOf(kTriangle);
+    hatch.style.name = QStringLiteral("\u00E9/1");
+    drawing->AddHatch(hatch);
+    EXPECT_EQ(Values(drawing, 2), std::vector<std::string>{"_/1"});
+}
+
 TEST(Hatch, HolesFollowTheOutlineWithFlagsOfTheirOwn)
 {
     CDrawing drawing;

@@ -213,6 +213,18 @@ TEST(LineStyleFile, ScaleIsLookedForBeforeTheOtherKeys)
     EXPECT_EQ(Part("X=3S=2"), "text T in ST rel r0 s1 x0 y0");
 }
 
+TEST(LineStyleFile, RotationIsLookedForBeforeTheOffsets)
+{
+    EXPECT_EQ(Part("X=3R=2"), "text T in ST rel r0 s1 x0 y0");
+    EXPECT_EQ(Part("R=2,Y=3X=4"), "text T in ST rel r2 s1 x0 y0");
+    EXPECT_EQ(Part("A=X=4"), "text T in ST abs r0 s1 x0 y0");
+}
+
+TEST(LineStyleFile, CapitalAIsLookedForBeforeTheOtherRotations)
+{
+    EXPECT_EQ(Part("R=3A=4"), "text T in ST abs r0 s1 x0 y0");
+}
+
 TEST(LineStyleFile, ShapeIsLookedUpByItsExactName)
 {
     const CTextFile shapes("*130,6,BOX\n");

@@ -133,6 +133,18 @@ TEST(LineTypes, ContextCompletesTheTextStyle)
     EXPECT_EQ(ValuesOf(style, 40), std::vector<std::string>{"3.000000"});
 }
 
+TEST(LineTypes, ComplexElementsStandAsStoredWhateverTheScale)
+{
+    CTestContext context;
+    CDrawing drawing(1018, &context);
+    drawing->AddLineStyle(StyleOf({1.0, Text(), 1.0, Shape()}));
+    const CTags record = RecordsOf(TableOf(ParseTags(drawing.Bytes()), "LTYPE"), "LTYPE").back();
+    EXPECT_EQ(ValuesOf(record, 46), (std::vector<std::string>{"0.500000", "1.000000"}));
+    EXPECT_EQ(ValuesOf(record, 50), (std::vector<std::string>{"30.000000", "45.000000"}));
+    EXPECT_EQ(ValuesOf(record, 44), (std::vector<std::string>{"-1.000000", "0.000000"}));
+    EXPECT_EQ(ValuesOf(record, 45), (std::vector<std::string>{"-2.000000", "0.000000"}));
+}
+
 TEST(LineTypes, TextWithoutAStyleNamesNone)
 {
     CDrawing drawing;

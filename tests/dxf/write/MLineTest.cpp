@@ -118,6 +118,19 @@ TEST(MLine, EveryDirectionPointsToTheNextPoint)
     }
 }
 
+TEST(MLine, SegmentToTheLeftTurnsItsMiterAround)
+{
+    // The way left counts as minus 180 degrees and not as 180, so that the miter in front of it points
+    // to the other side and the offsets change their sign.
+    CDrawing drawing;
+    drawing->AddMLine(MLineOf({{{0, 0, 0}, 0}, {{0, 10, 0}, 0}, {{-10, 10, 0}, 0}}));
+    const CTags tags = drawing.EntityTags();
+    EXPECT_EQ(ValuesOf(tags, 13).at(1), "0.707107");
+    EXPECT_EQ(ValuesOf(tags, 23).at(1), "0.707107");
+    EXPECT_EQ(ValuesOf(tags, 41).at(4), "-0.707107");
+    EXPECT_EQ(ValuesOf(tags, 22).at(1), "-0.000000");
+}
+
 TEST(MLine, StartAndEndAnglesTurnTheMiters)
 {
     CDrawing drawing;
@@ -135,6 +148,35 @@ TEST(MLine, ClosedTestIsThatOfPolylines)
     drawing->AddMLine(
         MLineOf({{{0, 0, 0}, 0}, {{10, 0, 0}, 0}, {{10, 10, 0}, 0}, {{0, 0.00001, 7}, 0}}));
     EXPECT_EQ(ValuesOf(drawing.EntityTags(), 71), std::vector<std::string>{"3"});
+}
+
+TEST(MLine, ClosedTestLooksAtThePositionsBeforeTheTransformation)
+{
+    class CCollapse final : public IDXFWriter::IContext
+    {
+    public:
+        CPoint2D TransformPoint(const CPoint2D&) override { return {}; }
+        bool GetLineStyle(const QString&, CLineStyleDXF&) override { return false; }
+        void CompleteTextStyle(CTextStyleDXF&) override { }
+        double GetScale() override { return 1; }
+    };
+    CCollapse context;
+    CDrawing drawing(1018, &context);
+    EXPECT_TRUE(drawing->AddMLine(MLineOf(kTwoPoints)));
+    EXPECT_EQ(ValuesOf(drawing.EntityTags(), 71), std::vector<std::string>{"1"});
+}
+
+TEST(MLine, StylesStandInTheDictionaryInTheOrderOfTheirNames)
+{
+    CDrawing drawing;
+    for (const char* name : {"b", "a", "B"}) {
+        CMLineDXF mline = MLineOf(kTwoPoints);
+        mline.style.name = QString::fromUtf8(name);
+        drawing->AddMLine(mline);
+    }
+    const std::string objects = drawing.Section("OBJECTS");
+    EXPECT_NE(objects.find("3 STANDARD\n350 18\n3 B\n350 d4\n3 a\n350 d2\n3 b\n350 d0\n"),
+              std::string::npos);
 }
 
 TEST(MLine, ContextIsAskedForTheLineTypesOfTheElements)

@@ -148,6 +148,22 @@ TEST(Polylines, SpacePolylineIsClosedByItsPositionsAlone)
     EXPECT_EQ(ValuesOf(drawing.EntityTags(), 70), (std::vector<std::string>{"136", "137"}));
 }
 
+TEST(Polylines, SpacePolylinePassesThroughTheContext)
+{
+    CTestContext context;
+    CDrawing drawing(1018, &context);
+    CPolylineDXF polyline;
+    polyline.lineWeight = 0.25;
+    polyline.vertices = {{{1, 2, 3}, 0.5}};
+    drawing->Add3DPolyline(polyline);
+    const CTags tags = drawing.EntityTags();
+    EXPECT_EQ(ValuesOf(tags, 370), std::vector<std::string>{"50"});
+    EXPECT_EQ(ValuesOf(tags, 10), std::vector<std::string>{"101.000000"});
+    EXPECT_EQ(ValuesOf(tags, 20), std::vector<std::string>{"202.000000"});
+    EXPECT_EQ(ValuesOf(tags, 30), std::vector<std::string>{"3.000000"});
+    EXPECT_EQ(ValuesOf(tags, 42), std::vector<std::string>{"0.5000000000"});
+}
+
 TEST(Polylines, BothKindsAreCounted)
 {
     CExportLog log;

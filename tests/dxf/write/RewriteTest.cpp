@@ -173,6 +173,18 @@ TEST(Rewrite, TablesGrowAfterARewriteToo)
               (std::vector<std::string>{"0", "a", "b"}));
 }
 
+TEST(Rewrite, WithinABlockItLeavesTheTargetAtTheEntities)
+{
+    CDrawing drawing;
+    drawing->BeginBlock(QStringLiteral("a"), false, QString());
+    drawing->AddLine(CLineDXF{});
+    drawing.UncheckedBytes();
+    EXPECT_TRUE(drawing->IsInBlock());
+    drawing->AddPoint(CPointDXF{});
+    const CTags tags = ParseTags(drawing.UncheckedBytes());
+    EXPECT_EQ(ValuesOf(SectionOf(tags, "ENTITIES"), 0), std::vector<std::string>{"POINT"});
+}
+
 TEST(Rewrite, ExistingFileIsReplaced)
 {
     QTemporaryDir folder;

@@ -76,6 +76,14 @@ TEST(Texts, TextIsCutTo255Characters)
     EXPECT_EQ(FirstValue(drawing, 1), std::string(255, 'x'));
 }
 
+TEST(Texts, TextIsSimplifiedBeforeItIsCut)
+{
+    CDrawing drawing;
+    drawing->AddText(TextOf(QString(100, QChar(u' ')) + QString(250, QChar(u'x'))
+                            + QString(100, QChar(u'\n')) + QString(100, QChar(u'y'))));
+    EXPECT_EQ(FirstValue(drawing, 1), std::string(250, 'x') + " yyyy");
+}
+
 TEST(Texts, AttributeIsCutTo255CharactersLikewise)
 {
     CDrawing drawing;
