@@ -35,8 +35,9 @@ void AppendFileContents(QFile& target, QFile& source)
     Require(target.flush(), target);
     Require(source.flush(), source);
     Require(source.seek(0), source);
-    std::vector<char> buffer(static_cast<std::size_t>(kCopyBufferSize));
     qint64 left = source.size();
+    // Blocks are small and many: no more is set aside than there is to copy.
+    std::vector<char> buffer(static_cast<std::size_t>(std::min(left, kCopyBufferSize)));
     while (left > 0) {
         const qint64 got = source.read(buffer.data(), std::min(left, kCopyBufferSize));
         // A file that turns out shorter than its size would never finish: it counts as failed too.
