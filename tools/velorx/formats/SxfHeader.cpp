@@ -1,33 +1,80 @@
 // SPDX-License-Identifier: MIT
 #include "tools/velorx/formats/SxfHeader.h"
 
+#include "tools/velorx/formats/SxfCodec.h"
 #include "VelorExchange/Pnr.h"
 
 #include <QFile>
 #include <QtEndian>
+
+#include <cmath>
 
 namespace velorx {
 
 namespace {
 
 constexpr char kMagic[] = {'S', 'X', 'F', '\0'};
-constexpr qint64 kScaleOffset = 60;
-constexpr qint64 kCountOffset = 440;
+constexpr int kHeaderSize = 444; // as far as anything of use stands
+constexpr int kNameSize = 32;
+constexpr int kSheetOffset = 28;
+constexpr int kScaleOffset = 60;
+constexpr int kNameOffset = 64;
+constexpr int kFlagsOffset = 96;
+constexpr int kCornerOffset = 104; // the south-western corner on the ground
+constexpr int kGridOffset = 316; // the four corners in units of the file
+constexpr int kGridSize = 32;
+constexpr int kCountOffset = 440;
+constexpr int kRealCoordinates = 0x18;
+constexpr qint64 kLongestLine = 65536; // of a text map; what is longer is looked at in pieces
 
-qint64 Int32At(QFile& file, qint64 offset)
+template <class T>
+T Number(const QByteArray& bytes, int offset)
 {
-    QByteArray bytes = file.seek(offset) ? file.read(sizeof(qint32)) : QByteArray();
-    bytes.resize(sizeof(qint32));
-    return qFromLittleEndian<qint32>(bytes.constData());
+    return qFromLittleEndian<T>(bytes.constData() + offset);
+}
+
+// A header without a grid says nothing of where the sheet lies: the coordinates stand as they are.
+void ReadOrigin(const QByteArray& bytes, SSxfHeader& header)
+{
+    const bool isReal = (bytes.at(kFlagsOffset) & kRealCoordinates) != 0;
+    const QByteArray grid = bytes.mid(kGridOffset, kGridSize);
+    const auto x = Number<double>(bytes, kCornerOffset);
+    const auto y = Number<double>(bytes, kCornerOffset + static_cast<int>(sizeof x));
+    if (!isReal && grid.count('\0') < grid.size() && std::isfinite(x) && std::isfinite(y)) {
+        header.originX = x;
+        header.originY = y;
+    }
+}
+
+void ReadBinary(QFile& file, SSxfHeader& header)
+{
+    QByteArray bytes = file.read(kHeaderSize);
+    bytes.append(QByteArray(kHeaderSize - bytes.size(), '\0'));
+    header.scale = Number<qint32>(bytes, kScaleOffset);
+    header.declaredRecords = Number<qint32>(bytes, kCountOffset);
+    header.name = SxfFieldText(bytes.mid(kNameOffset, kNameSize));
+    header.sheet = SxfFieldText(bytes.mid(kSheetOffset, kNameSize));
+    ReadOrigin(bytes, header);
+}
+
+QString Rest(const QByteArray& line)
+{
+    return SxfFieldText(line.mid(line.indexOf(' ')));
 }
 
 // Up to the line with the count, which the library's reader looks for as well.
 void ReadPassport(QFile& file, SSxfHeader& header)
 {
     while (!file.atEnd()) {
-        const QByteArray line = file.readLine().simplified();
-        const QByteArray last = line.mid(line.lastIndexOf(' ') + 1);
-        if (line.startsWith("P207 ")) {
+        const QByteArray line = file.readLine(kLongestLine).trimmed();
+        const QByteArray last = line.simplified().split(' ').last();
+        if (line.toUpper().startsWith(".SIT")) {
+            header.isUserMap = true;
+        } else if (line.startsWith("P000 ")) {
+            header.sheet = Rest(line);
+        } else if (line.startsWith("P001 ")) {
+            header.name = Rest(line);
+        } else if (line.simplified().startsWith("P207 ")) {
             header.scale = last.toLongLong();
         } else if (line.toUpper().contains(".DAT")) {
             header.declaredRecords = last.toInt();
@@ -45,11 +92,10 @@ SSxfHeader ReadSxfHeader(const QString& path)
     if (!VelorExchange::pnr::IsTxtFile(path, header.isText) || !file.open(QIODevice::ReadOnly)) {
         return header;
     }
-    if (header.isText) {
-        ReadPassport(file, header);
-    } else {
-        header.scale = Int32At(file, kScaleOffset);
-        header.declaredRecords = Int32At(file, kCountOffset);
+    header.isText ? ReadPassport(file, header) : ReadBinary(file, header);
+    if (header.name.isEmpty() || header.name == header.sheet) {
+        header.name = header.sheet;
+        header.sheet.clear();
     }
     return header;
 }
