@@ -16,6 +16,8 @@ struct SWay
 
 constexpr SWay kWays[] = {
     {"DXF", "DXF", ConvertDxfToDxf},
+    {"SXF", "SXF", ConvertSxfToSxf},
+    {"SXF", "SXF text", ConvertSxfToSxfText},
 };
 
 } // namespace

@@ -46,4 +46,10 @@ QString ConvertThroughFeatures(std::string_view from, std::string_view to,
 /// Drawing to drawing: elements are handed on as they are read.
 QString ConvertDxfToDxf(const SConversionJob& job, CConversionReport& report);
 
+/// Map of either form to a map of the binary form: objects are handed on as they are read.
+QString ConvertSxfToSxf(const SConversionJob& job, CConversionReport& report);
+
+/// Map of either form to a map of the text form.
+QString ConvertSxfToSxfText(const SConversionJob& job, CConversionReport& report);
+
 } // namespace velorx
