@@ -2,6 +2,7 @@
 #include "tools/velorx/features/FeatureFormats.h"
 
 #include "tools/velorx/features/FeatureTally.h"
+#include "tools/velorx/features/SxfFeatureSource.h"
 
 #include <algorithm>
 #include <vector>
@@ -36,7 +37,9 @@ std::unique_ptr<IFeatureTarget> Target(const STargetOptions& options, CFeatureTa
 
 const std::vector<SSourceMaker>& Sources()
 {
-    static const std::vector<SSourceMaker> sources = {};
+    static const std::vector<SSourceMaker> sources = {
+        {"SXF", Source<CSxfFeatureSource>},
+    };
     return sources;
 }
 
