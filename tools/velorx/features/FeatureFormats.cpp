@@ -3,6 +3,7 @@
 
 #include "tools/velorx/features/FeatureTally.h"
 #include "tools/velorx/features/SxfFeatureSource.h"
+#include "tools/velorx/features/SxfFeatureTarget.h"
 
 #include <algorithm>
 #include <vector>
@@ -35,6 +36,12 @@ std::unique_ptr<IFeatureTarget> Target(const STargetOptions& options, CFeatureTa
     return std::make_unique<T>(options, tally);
 }
 
+template <bool isText>
+std::unique_ptr<IFeatureTarget> SxfTarget(const STargetOptions& options, CFeatureTally& tally)
+{
+    return std::make_unique<CSxfFeatureTarget>(options, tally, isText);
+}
+
 const std::vector<SSourceMaker>& Sources()
 {
     static const std::vector<SSourceMaker> sources = {
@@ -45,7 +52,10 @@ const std::vector<SSourceMaker>& Sources()
 
 const std::vector<STargetMaker>& Targets()
 {
-    static const std::vector<STargetMaker> targets = {};
+    static const std::vector<STargetMaker> targets = {
+        {"SXF", SxfTarget<false>},
+        {"SXF text", SxfTarget<true>},
+    };
     return targets;
 }
 
