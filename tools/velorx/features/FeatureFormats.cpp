@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "tools/velorx/features/FeatureFormats.h"
 
+#include "tools/velorx/features/DxfFeatureSource.h"
 #include "tools/velorx/features/FeatureTally.h"
 #include "tools/velorx/features/SxfFeatureSource.h"
 #include "tools/velorx/features/SxfFeatureTarget.h"
@@ -45,6 +46,7 @@ std::unique_ptr<IFeatureTarget> SxfTarget(const STargetOptions& options, CFeatur
 const std::vector<SSourceMaker>& Sources()
 {
     static const std::vector<SSourceMaker> sources = {
+        {"DXF", Source<CDxfFeatureSource>},
         {"SXF", Source<CSxfFeatureSource>},
     };
     return sources;

@@ -1,0 +1,56 @@
+// SPDX-License-Identifier: MIT
+#include "tools/velorx/features/DxfStyles.h"
+
+#include "tools/velorx/formats/DxfSurvey.h"
+#include "tools/velorx/formats/DxfTally.h"
+
+#include <gtest/gtest.h>
+
+namespace velorx::test {
+
+TEST(DxfStyles, TypefacesAreKnownByTheirFiles)
+{
+    EXPECT_EQ(TypefaceOf("C:\\Windows\\Fonts\\TIMESBI.TTF").name, "Times New Roman");
+    EXPECT_TRUE(TypefaceOf("timesbi.ttf").isBold);
+    EXPECT_TRUE(TypefaceOf("timesbi.ttf").isItalic);
+    EXPECT_FALSE(TypefaceOf("arial.ttf").isBold);
+    EXPECT_EQ(TypefaceOf("fonts/Isocpeur.ttf").name, "Isocpeur");
+}
+
+TEST(DxfStyles, FilesOfShapesAreNoTypefaces)
+{
+    for (const char* file : {"txt", "simplex.shx", "Arial", ""}) {
+        EXPECT_EQ(TypefaceOf(file).name, "") << file;
+    }
+}
+
+TEST(DxfStyles, LayersAreFoundInAnyCaseAndTheFirstStands)
+{
+    CDxfTally counts;
+    const CDxfSurvey survey(counts);
+    CDxfStyles styles(survey);
+    VelorExchange::dxf::CLayerDXF layer;
+    layer.name = QStringLiteral("Дороги");
+    layer.color = 5;
+    styles.Add(layer);
+    layer.color = 6;
+    styles.Add(layer);
+    EXPECT_EQ(styles.LayerName(QStringLiteral("ДОРОГИ")), layer.name);
+    EXPECT_EQ(styles.Layer(QStringLiteral("дороги")).color, 5U);
+    EXPECT_EQ(styles.LayerName("other"), "other");
+    EXPECT_EQ(styles.LayerName(""), "0");
+}
+
+TEST(DxfStyles, LineTypesWithoutDashesKeepTheirName)
+{
+    CDxfTally counts;
+    const CDxfSurvey survey(counts);
+    CDxfStyles styles(survey);
+    EXPECT_EQ(styles.LineType("Continuous"), nullptr);
+    EXPECT_EQ(styles.LineType("BYBLOCK"), nullptr);
+    ASSERT_NE(styles.LineType("Fence"), nullptr);
+    EXPECT_EQ(styles.LineType("Fence")->name, "Fence");
+    EXPECT_EQ(styles.LineType("FENCE"), styles.LineType("Fence"));
+}
+
+} // namespace velorx::test

@@ -1,0 +1,85 @@
+// SPDX-License-Identifier: MIT
+#include "tools/velorx/features/DxfFeatureSource.h"
+
+#include "tools/velorx/ConversionReport.h"
+#include "tools/velorx/features/DxfFeatureReader.h"
+#include "tools/velorx/formats/DxfContent.h"
+#include "tools/velorx/formats/DxfSurvey.h"
+#include "tools/velorx/formats/DxfTally.h"
+#include "tools/velorx/info/Family.h"
+#include "VelorExchange/dxf/read/Read.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+#include <algorithm>
+#include <iterator>
+
+namespace velorx {
+
+namespace {
+
+// What the first look counts and features keep all the same.
+constexpr EDxfLoss kKept[] = {EDxfLoss::BlockBasePoints, EDxfLoss::LayerColours,
+                              EDxfLoss::TwoVertexClosed};
+
+bool IsKept(const QString& what)
+{
+    return std::any_of(std::begin(kKept), std::end(kKept),
+                       [&what](EDxfLoss loss) { return what == QLatin1String(LossText(loss)); });
+}
+
+QByteArray HeadOf(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.read(kHeadSize) : QByteArray();
+}
+
+void HandOnLosses(const CDxfTally& counts, CFeatureTally& tally)
+{
+    CConversionReport report;
+    counts.FillReport(report);
+    for (const SConversionLoss& loss : report.losses) {
+        if (IsKept(loss.what)) {
+            continue;
+        }
+        qint64 rest = loss.count;
+        for (const auto& [layer, count] : loss.layers) {
+            tally.Lose(loss.what, layer, count);
+            rest -= count;
+        }
+        if (rest > 0) {
+            tally.Lose(loss.what, QString(), rest);
+        }
+    }
+}
+
+// File names keep the bytes that the shell handed over.
+QString NameOf(const QString& path)
+{
+    const QByteArray name = QFile::encodeName(QFileInfo(path).completeBaseName());
+    return QString::fromUtf8(name.constData());
+}
+
+} // namespace
+
+// Two passes: the first for what the reader leaves out, the second through the library.
+QString CDxfFeatureSource::Read(IFeatureSink& sink, CFeatureTally& tally)
+{
+    if (!IsDxfContent(HeadOf(path))) {
+        return QStringLiteral("it does not start like a text drawing (binary ones are not read)");
+    }
+    CDxfTally counts;
+    CDxfSurvey survey(counts);
+    if (!survey.Read(path)) {
+        return QStringLiteral("it cannot be opened");
+    }
+    sink.TakeHead({NameOf(path), 0});
+    CDxfFeatureReader reader(sink, tally, survey, options);
+    const bool isWhole = VelorExchange::dxf::Read(path, &reader);
+    reader.Finish();
+    HandOnLosses(counts, tally);
+    return isWhole ? QString() : QStringLiteral("the drawing ends inside a block");
+}
+
+} // namespace velorx
