@@ -1,146 +1,96 @@
 // SPDX-License-Identifier: MIT
-// Takes the input for a list of calls with arbitrary records, writes the drawing and reads it back: as
-// many elements have to come as the writer said it took.
-#include "VelorExchange/DXF.h"
-
+// Takes the input for a list of calls with arbitrary records and a context that answers at will, writes
+// the drawing and reads it back: as many elements have to come as the writer said it took, within blocks
+// and outside them.
+#include "DxfInput.h"
 #include "MemoryFile.h"
 
-#include <cstdint>
-#include <cstring>
 #include <memory>
 
 using namespace VelorExchange;
 using namespace VelorExchange::dxf;
+using fuzz::CDxfInput;
 
 namespace {
 
-// Takes numbers and texts from the input; zeros once it is used up.
-class CInput
-{
-public:
-    CInput(const std::uint8_t* data, std::size_t size) : p(data), end(data + size) { }
-
-    bool IsOver() const { return p == end; }
-    int Byte() { return p == end ? 0 : *p++; }
-    double Real()
-    {
-        // Mostly ordinary numbers, sometimes any bits at all.
-        if (Byte() % 4 != 0) {
-            return (Byte() * 256 + Byte() - 32768) / 16.0;
-        }
-        double value = 0;
-        for (std::size_t i = 0; i < sizeof value; ++i) {
-            const auto byte = static_cast<std::uint8_t>(Byte());
-            std::memcpy(reinterpret_cast<std::uint8_t*>(&value) + i, &byte, 1);
-        }
-        return value;
-    }
-    // Short enough for the reader's lines of 1023 characters.
-    QString Text()
-    {
-        QString text;
-        for (int left = Byte() % 200; left > 0; --left) {
-            const int high = Byte();
-            text += QChar(static_cast<ushort>(high % 8 == 0 ? Byte() * 256 + Byte() : high));
-        }
-        return text;
-    }
-    CPoint2D Point2D() { return {Real(), Real()}; }
-    CPoint3D Point3D() { return {Real(), Real(), Real()}; }
-    std::vector<CPoint3D> Points()
-    {
-        std::vector<CPoint3D> points(static_cast<std::size_t>(Byte() % 8));
-        for (CPoint3D& point : points) {
-            point = Point3D();
-        }
-        return points;
-    }
-    std::vector<CVertexDXF> Vertices()
-    {
-        std::vector<CVertexDXF> vertices;
-        for (const CPoint3D& point : Points()) {
-            vertices.push_back({point, Real()});
-        }
-        return vertices;
-    }
-    CLineStyleDXF LineStyle()
-    {
-        CLineStyleDXF style;
-        style.name = Text();
-        for (int left = Byte() % 5; left > 0; --left) {
-            CLineTextDXF text;
-            text.text = Text();
-            text.style = Text();
-            text.scale = Real();
-            style.pattern.push_back(Real());
-            style.pattern.push_back(text);
-        }
-        return style;
-    }
-    void Head(CEntityDXF& head)
-    {
-        head.layer = Text();
-        head.color = static_cast<quint32>(Byte() * 65793);
-        head.lineWeight = Real();
-        if (Byte() % 2 != 0) {
-            head.lineStyle = LineStyle();
-        }
-    }
-    void Letters(CTextDXF& text)
-    {
-        text.text = Text();
-        text.layer = Text();
-        text.position = Point2D();
-        text.height = Real();
-        text.rotation = Real();
-        text.alignment = Byte();
-        text.style.name = Text();
-    }
-
-private:
-    const std::uint8_t* p;
-    const std::uint8_t* end;
+enum EKind {
+    kLine,
+    kArc,
+    kPoint,
+    kPolyline,
+    kSpacePolyline,
+    kText,
+    kInsert,
+    kHatch,
+    kFace,
+    kSpline,
+    kXLine,
+    kMLine,
+    kInBlocks,
+    kKindCount
 };
 
 struct CCounts
 {
-    int lines = 0;
-    int arcs = 0;
-    int points = 0;
-    int polylines = 0;
-    int spacePolylines = 0;
-    int texts = 0;
-    int inserts = 0;
-    int hatches = 0;
-
-    bool operator==(const CCounts& o) const
-    {
-        return lines == o.lines && arcs == o.arcs && points == o.points && polylines == o.polylines
-            && spacePolylines == o.spacePolylines && texts == o.texts && inserts == o.inserts
-            && hatches == o.hatches;
-    }
+    int of[kKindCount] = {};
 };
 
 class CCountingHost final : public IDXFReader
 {
 public:
-    bool OnLine(const CLineDXF&) override { return ++counts.lines > 0; }
-    bool OnArc(const CArcDXF&) override { return ++counts.arcs > 0; }
-    bool OnPoint(const CPointDXF&) override { return ++counts.points > 0; }
-    bool OnLWPolyline(const CLWPolylineDXF&) override { return ++counts.polylines > 0; }
-    bool OnPolyline(const CPolylineDXF&) override { return ++counts.spacePolylines > 0; }
-    bool OnText(const CTextDXF&) override { return ++counts.texts > 0; }
-    bool OnMText(const CMTextDXF&) override { return ++counts.texts > 0; }
-    bool OnInsert(const CInsertDXF&) override { return ++counts.inserts > 0; }
-    bool OnHatch(const CHatchDXF&) override { return ++counts.hatches > 0; }
+    bool OnLine(const CLineDXF&) override { return Count(kLine); }
+    bool OnArc(const CArcDXF&) override { return Count(kArc); }
+    bool OnPoint(const CPointDXF&) override { return Count(kPoint); }
+    bool OnLWPolyline(const CLWPolylineDXF&) override { return Count(kPolyline); }
+    bool OnPolyline(const CPolylineDXF&) override { return Count(kSpacePolyline); }
+    bool OnText(const CTextDXF&) override { return Count(kText); }
+    bool OnMText(const CMTextDXF&) override { return Count(kText); }
+    bool OnInsert(const CInsertDXF&) override { return Count(kInsert); }
+    bool OnHatch(const CHatchDXF&) override { return Count(kHatch); }
+    bool On3DFace(const C3DFaceDXF&) override { return Count(kFace); }
+    bool OnSpline(const CSplineDXF&) override { return Count(kSpline); }
+    bool OnXLine(const CXLineDXF&) override { return Count(kXLine); }
+    bool OnMLine(const CMLineDXF&) override { return Count(kMLine); }
+    bool OnBlock(const CBlockDXF& block) override
+    {
+        counts.of[kInBlocks] += static_cast<int>(block.entities.size());
+        return true;
+    }
 
     CCounts counts;
+
+private:
+    bool Count(EKind kind) { return ++counts.of[kind] > 0; }
 };
 
+class CAnswering final : public IDXFWriter::IContext
+{
+public:
+    explicit CAnswering(CDxfInput& source) : input(source) { }
+
+    CPoint2D TransformPoint(const CPoint2D& in) override
+    {
+        return isFar ? CPoint2D{in.x * 1e300, in.y + 1} : in;
+    }
+    bool GetLineStyle(const QString&, CLineStyleDXF& style) override
+    {
+        style = input.LineStyle();
+        return input.Flag();
+    }
+    void CompleteTextStyle(CTextStyleDXF& style) override { style.height = input.Real(); }
+    double GetScale() override { return input.Byte() % 16 == 0 ? input.Real() : 2.0; }
+
+    bool isFar = false;
+
+private:
+    CDxfInput& input;
+};
+
+// One step an operation; each returns whether the writer took its record.
 class CDriver
 {
 public:
-    CDriver(IDXFWriter& target, CInput& source) : writer(target), input(source) { }
+    CDriver(IDXFWriter& target, CDxfInput& source) : writer(target), input(source) { }
 
     CCounts Run()
     {
@@ -154,146 +104,203 @@ public:
     }
 
 private:
-    void Count(bool taken, int& count) const { count += taken && !writer.IsInBlock() ? 1 : 0; }
+    void Count(bool taken, EKind kind)
+    {
+        counts.of[writer.IsInBlock() ? kInBlocks : kind] += taken ? 1 : 0;
+    }
 
     void Step()
     {
-        switch (input.Byte() % 14) {
-        case 0: {
-            CLineDXF line;
-            input.Head(line);
-            line.start = input.Point3D();
-            line.end = input.Point3D();
-            return Count(writer.AddLine(line), counts.lines);
-        }
-        case 1: {
-            CArcDXF arc;
-            input.Head(arc);
-            arc.center = input.Point3D();
-            arc.radius = input.Real();
-            arc.startAngle = input.Real();
-            return Count(writer.AddArc(arc), counts.arcs);
-        }
-        case 2: {
-            CPointDXF point;
-            point.layer = input.Text();
-            point.point = input.Point3D();
-            return Count(writer.AddPoint(point), counts.points);
-        }
-        case 3: {
-            CLWPolylineDXF polyline;
-            input.Head(polyline);
-            polyline.vertices = input.Vertices();
-            polyline.width = input.Real();
-            return Count(writer.AddPolyline(polyline), counts.polylines);
-        }
-        case 4: {
-            CPolylineDXF polyline;
-            input.Head(polyline);
-            polyline.vertices = input.Vertices();
-            return Count(writer.Add3DPolyline(polyline), counts.spacePolylines);
-        }
-        default:
-            return StepOn(input.Byte() % 9);
-        }
+        constexpr void (CDriver::*kSteps[])() = {
+            &CDriver::Line,     &CDriver::Arc,    &CDriver::Point,     &CDriver::Polyline,
+            &CDriver::Space,    &CDriver::Text,   &CDriver::MText,     &CDriver::Insert,
+            &CDriver::Hatch,    &CDriver::Face,   &CDriver::Spline,    &CDriver::XLine,
+            &CDriver::MLine,    &CDriver::Image,  &CDriver::Attribute, &CDriver::Begin,
+            &CDriver::EndBlock, &CDriver::Styles, &CDriver::Settings,  &CDriver::StartAnew};
+        (this->*kSteps[static_cast<std::size_t>(input.Byte()) % std::size(kSteps)])();
     }
 
-    void StepOn(int kind)
+    template <class Record>
+    Record Headed()
     {
-        switch (kind) {
-        case 0: {
-            CTextDXF text;
-            input.Letters(text);
-            return Count(writer.AddText(text), counts.texts);
-        }
-        case 1: {
-            CMTextDXF text;
-            input.Letters(text);
-            return Count(writer.AddMText(text), counts.texts);
-        }
-        case 2: {
-            CInsertDXF insert;
-            insert.name = input.Text();
-            insert.layer = input.Text();
-            insert.point = input.Point3D();
-            insert.scaleX = input.Real();
-            insert.attributes.resize(static_cast<std::size_t>(input.Byte() % 3));
-            for (CAttribDXF& attribute : insert.attributes) {
-                input.Letters(attribute);
-                attribute.tag = input.Text();
-            }
-            return Count(writer.AddInsert(insert), counts.inserts);
-        }
-        case 3: {
-            CHatchDXF hatch;
-            hatch.layer = input.Text();
-            hatch.outline = input.Points();
-            hatch.markedBoundaries.push_back(input.Points());
-            hatch.style.name = input.Text();
-            hatch.style.lines.resize(static_cast<std::size_t>(input.Byte() % 3));
-            hatch.angle = input.Real();
-            return Count(writer.AddHatch(hatch), counts.hatches);
-        }
-        default:
-            return StepAround(kind);
-        }
+        Record record;
+        input.Head(record);
+        return record;
     }
 
-    void StepAround(int kind)
+    void Line()
     {
-        switch (kind) {
-        case 4: {
-            CMLineDXF mline;
-            mline.vertices = input.Vertices();
-            mline.style.name = input.Text();
-            mline.style.body = QStringLiteral("2\nSTYLE\n");
-            mline.style.offsets = {input.Real(), input.Real()};
-            writer.AddMLine(mline);
-            return;
+        auto line = Headed<CLineDXF>();
+        line.start = input.Point3D();
+        line.end = input.Point3D();
+        Count(writer.AddLine(line), kLine);
+    }
+    void Arc()
+    {
+        auto arc = Headed<CArcDXF>();
+        arc.center = input.Point3D();
+        arc.radius = input.Real();
+        arc.startAngle = input.Real();
+        Count(writer.AddArc(arc), kArc);
+    }
+    void Point()
+    {
+        CPointDXF point;
+        point.layer = input.Text();
+        point.point = input.Point3D();
+        Count(writer.AddPoint(point), kPoint);
+    }
+    void Polyline()
+    {
+        auto polyline = Headed<CLWPolylineDXF>();
+        polyline.vertices = input.Vertices();
+        polyline.width = input.Real();
+        Count(writer.AddPolyline(polyline), kPolyline);
+    }
+    void Space()
+    {
+        auto polyline = Headed<CPolylineDXF>();
+        polyline.vertices = input.Vertices();
+        Count(writer.Add3DPolyline(polyline), kSpacePolyline);
+    }
+    void Text()
+    {
+        CTextDXF text;
+        input.Letters(text);
+        Count(writer.AddText(text), kText);
+    }
+    void MText()
+    {
+        CMTextDXF text;
+        input.Letters(text);
+        Count(writer.AddMText(text), kText);
+    }
+    void Insert()
+    {
+        CInsertDXF insert;
+        insert.name = input.Text();
+        insert.layer = input.Text();
+        insert.point = input.Point3D();
+        insert.scaleX = input.Real();
+        insert.attributes.resize(static_cast<std::size_t>(input.Byte() % 3));
+        for (CAttribDXF& attribute : insert.attributes) {
+            input.Letters(attribute);
+            attribute.tag = input.Text();
         }
-        case 5: {
-            CImageDXF image;
-            image.name = writer.MakeImageName(input.Text());
-            image.filePath = input.Text();
-            image.clip = input.Points();
-            image.rotation = input.Real();
-            if (!writer.IsInBlock()) {
-                writer.AddImage(image);
-            }
-            return;
+        Count(writer.AddInsert(insert), kInsert);
+    }
+    void Hatch()
+    {
+        CHatchDXF hatch;
+        hatch.layer = input.Text();
+        hatch.outline = input.Points();
+        hatch.markedBoundaries.push_back(input.Points());
+        hatch.style = input.HatchStyle();
+        hatch.angle = input.Real();
+        Count(writer.AddHatch(hatch), kHatch);
+    }
+    void Face()
+    {
+        auto face = Headed<C3DFaceDXF>();
+        for (CPoint3D& corner : face.corners) {
+            corner = input.Point3D();
         }
-        case 6:
-            // A block within a block is the only one there, so that each ends in its own file.
-            if (!writer.IsInBlock()) {
-                writer.BeginBlock(input.Text(), input.Byte() % 2 != 0, input.Text());
-            }
-            return;
-        case 7:
-            writer.EndBlock();
-            return;
-        default:
-            writer.SetPrecision(input.Byte() % 20);
+        Count(writer.Add3DFace(face), kFace);
+    }
+    void Spline()
+    {
+        auto spline = Headed<CSplineDXF>();
+        spline.knots = input.Reals();
+        spline.controlPoints = input.Points();
+        Count(writer.AddSpline(spline), kSpline);
+    }
+    void XLine()
+    {
+        auto xline = Headed<CXLineDXF>();
+        xline.origin = input.Point2D();
+        xline.direction = input.Point2D();
+        Count(writer.AddXLine(xline), kXLine);
+    }
+    void MLine()
+    {
+        CMLineDXF mline;
+        mline.layer = input.Text();
+        mline.vertices = input.Vertices();
+        mline.style.name = input.Text();
+        mline.style.body = QStringLiteral("2\nSTYLE\n");
+        mline.style.offsets = input.Reals();
+        mline.style.lineTypes.resize(static_cast<std::size_t>(input.Byte() % 3));
+        Count(writer.AddMLine(mline), kMLine);
+    }
+    // Its second half would leave an open block.
+    void Image()
+    {
+        CImageDXF image;
+        image.name = writer.MakeImageName(input.Text());
+        image.filePath = input.Text();
+        image.clip = input.Points();
+        image.rotation = input.Real();
+        if (!writer.IsInBlock()) {
+            writer.AddImage(image);
+        }
+    }
+    // The reader takes definitions within blocks alone.
+    void Attribute()
+    {
+        CAttribDXF attribute;
+        input.Letters(attribute);
+        attribute.tag = input.Text();
+        if (writer.AddAttribute(attribute, false) && writer.IsInBlock()) {
+            ++counts.of[kInBlocks];
+        }
+    }
+    // What follows a nested block lands in the file of a closed sibling: none is made here.
+    void Begin()
+    {
+        if (!hasClosedInside) {
+            writer.BeginBlock(input.Text(), input.Flag(), input.Text());
+        }
+    }
+    void EndBlock()
+    {
+        writer.EndBlock();
+        hasClosedInside = writer.IsInBlock();
+    }
+    void Styles()
+    {
+        writer.AddLayer(input.Text(), input.Flag(), input.Flag());
+        writer.AddTextStyle(input.TextStyle(), input.Flag());
+        writer.AddLineStyle(input.LineStyle());
+    }
+    void Settings() { writer.SetPrecision(input.Byte() % 20); }
+    void StartAnew()
+    {
+        if (!writer.IsInBlock()) {
+            writer.Init(input.Flag() ? 1015 : 1018, nullptr);
+            counts = {};
         }
     }
 
     IDXFWriter& writer;
-    CInput& input;
+    CDxfInput& input;
     CCounts counts;
+    bool hasClosedInside = false;
 };
 
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
-    CInput input(data, size);
-    const std::unique_ptr<IDXFWriter, decltype(&DeleteDXFWriter)> writer(CreateDXFWriter(nullptr),
-                                                                         &DeleteDXFWriter);
-    writer->Init(input.Byte() % 2 != 0 ? 1015 : 1018, nullptr);
+    CDxfInput input(data, size);
+    CAnswering context(input);
+    const std::unique_ptr<IDXFWriter, decltype(&DeleteDXFWriter)> writer(
+        CreateDXFWriter(input.Flag() ? &context : nullptr), &DeleteDXFWriter);
+    context.isFar = input.Byte() % 8 == 0;
     const CCounts written = CDriver(*writer, input).Run();
     const fuzz::CMemoryFile file(data, 0);
     writer->Rewrite(file.Path());
     CCountingHost host;
-    if (!Read(file.Path(), &host) || !(host.counts == written)) {
+    if (!Read(file.Path(), &host) || std::memcmp(&host.counts, &written, sizeof written) != 0) {
         __builtin_trap();
     }
     return 0;

@@ -26,5 +26,7 @@ for seed in "${seeds[@]}"; do
 done
 dictionary=()
 [ -f "fuzz/$name.dict" ] && dictionary=("-dict=fuzz/$name.dict")
+# Temporary files of the library stay in memory: a run is not to wait for the disk.
+[ -w /dev/shm ] && export TMPDIR=/dev/shm
 exec "$binary" "${limit[@]}" "${dictionary[@]}" -timeout=25 -rss_limit_mb=2048 -max_len=65536 -print_final_stats=1 \
     -artifact_prefix=build/fuzz/finds/ "$corpus" "${folders[@]}"
