@@ -140,6 +140,16 @@ TEST(Hatch, VerticesWithinTheToleranceOfTheLastKeptOneGo)
     EXPECT_EQ(Values(drawing, 10), (std::vector<std::string>{"0.0", "0.0", "0.1", "5.0", "5.0"}));
 }
 
+TEST(Hatch, VertexExactlyTheToleranceAwayGoesInEitherDirection)
+{
+    CDrawing drawing;
+    drawing->SetPrecision(1);
+    drawing->AddHatch(HatchOf({{0, 0, 0}, {0.1, 0, 0}, {5, 0, 0}, {5, 0.1, 0}, {5, 5, 0}}));
+    EXPECT_EQ(Values(drawing, 10), (std::vector<std::string>{"0.0", "0.0", "5.0", "5.0"}));
+    drawing->AddHatch(HatchOf({{0, 0, 0}, {0.11, 0, 0}, {5, 0, 0}, {5, 0.11, 0}, {5, 5, 0}}));
+    EXPECT_EQ(Values(drawing, 93), (std::vector<std::string>{"3", "5"}));
+}
+
 TEST(Hatch, OutlineIsTransformedBeforeVerticesAreCompared)
 {
     CTestContext context;
