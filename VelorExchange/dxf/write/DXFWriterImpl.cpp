@@ -32,7 +32,14 @@ IDXFWriter::~IDXFWriter() = default;
 
 IDXFWriter* CreateDXFWriter(IDXFWriter::IContext* context)
 {
-    return new CDXFWriterImpl(context);
+    try {
+        return new CDXFWriterImpl(context);
+    } catch (...) {
+        if (context != nullptr) {
+            context->writer = nullptr; // it was set to the writer that is gone
+        }
+        throw;
+    }
 }
 
 void DeleteDXFWriter(IDXFWriter* writer)

@@ -285,6 +285,14 @@ TEST(Fault, TemporaryFolderThatTakesNoFiles)
     EXPECT_NE(fault.error, QFile::NoError);
 }
 
+TEST(Fault, ContextForgetsAWriterThatCouldNotBeMade)
+{
+    const CNoTemporaryFolder none;
+    CTestContext context;
+    EXPECT_TRUE(FaultOf([&] { CreateDXFWriter(&context); }).isThrown);
+    EXPECT_EQ(context.writer, nullptr);
+}
+
 TEST(Fault, BlockWithoutATemporaryFileChangesNothing)
 {
     CDrawing drawing;
