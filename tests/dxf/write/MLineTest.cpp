@@ -142,6 +142,22 @@ TEST(MLine, StartAndEndAnglesTurnTheMiters)
               (std::vector<std::string>{"1.000000", "-1.000000"}));
 }
 
+TEST(MLine, CapAnglesCountFromTheDirectionAndLeaveTheOffsetsAlone)
+{
+    CDrawing drawing;
+    CMLineDXF mline = MLineOf({{{0, 0, 0}, 0}, {{0, 10, 0}, 0}});
+    mline.style.startAngle = 0.25 * 3.141592653589793;
+    mline.style.endAngle = 0.5 * 3.141592653589793;
+    drawing->AddMLine(mline);
+    const CTags tags = drawing.EntityTags();
+    EXPECT_EQ(ValuesOf(tags, 13), (std::vector<std::string>{"-0.707107", "-1.000000"}));
+    EXPECT_EQ(ValuesOf(tags, 23), (std::vector<std::string>{"0.707107", "0.000000"}));
+    const std::vector<std::string> once = {"0.500000", "0.000000", "-0.500000", "0.000000"};
+    std::vector<std::string> twice = once;
+    twice.insert(twice.end(), once.begin(), once.end());
+    EXPECT_EQ(ValuesOf(tags, 41), twice);
+}
+
 TEST(MLine, ClosedTestIsThatOfPolylines)
 {
     CDrawing drawing;

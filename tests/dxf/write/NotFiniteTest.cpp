@@ -305,6 +305,29 @@ TEST(NotFinite, MiterThatDividesByZeroRefusesTheMLine)
     EXPECT_EQ(drawing->GetNextHandle(), 0xD0);
 }
 
+TEST(NotFinite, LineTypeOfTheContextRefusesTheMLine)
+{
+    class CBrokenLines final : public IDXFWriter::IContext
+    {
+    public:
+        CPoint2D TransformPoint(const CPoint2D& in) override { return in; }
+        bool GetLineStyle(const QString& name, CLineStyleDXF& style) override
+        {
+            style.name = name;
+            style.pattern = {kNan};
+            return true;
+        }
+        void CompleteTextStyle(CTextStyleDXF&) override { }
+        double GetScale() override { return 1; }
+    };
+    CBrokenLines context;
+    const CDrawing drawing(1018, &context);
+    CMLineDXF mline = Good<CMLineDXF>();
+    mline.style.lineTypes = {QStringLiteral("dash")};
+    EXPECT_FALSE(drawing->AddMLine(mline));
+    EXPECT_EQ(drawing->GetNextHandle(), 0xD0);
+}
+
 TEST(NotFinite, Hatch)
 {
     const Add<CHatchDXF> add = &IDXFWriter::AddHatch;
