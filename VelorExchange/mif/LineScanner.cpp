@@ -75,9 +75,11 @@ bool CLineScanner::Next(QFile& file, CSpan& line)
     }
     line = {begin, lineEnd == nullptr ? end : lineEnd};
     begin = lineEnd == nullptr ? end : lineEnd + 1;
+    hasLineFeed = lineEnd != nullptr;
     if (hasNul && !line.IsEmpty()) {
         if (const char* const nul = Find('\0', line.begin, line.end)) {
             line.end = nul;
+            hasLineFeed = false;
         }
     }
     return true;

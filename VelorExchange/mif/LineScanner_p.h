@@ -33,6 +33,9 @@ public:
     /// at the end of the file.
     bool Next(QFile& file, CSpan& line);
 
+    /// A line feed stands right behind the line taken last.
+    bool HasLineFeed() const { return hasLineFeed; }
+
     /// Position of the next line in the file.
     qint64 Position() const { return readUpTo - (end - begin); }
 
@@ -46,6 +49,7 @@ private:
     const char* end = nullptr;
     qint64 readUpTo = 0;
     bool hasNul = false; // whether a NUL has been seen in the file
+    bool hasLineFeed = false;
 };
 
 } // namespace VelorExchange::mif

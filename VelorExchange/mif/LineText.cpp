@@ -90,7 +90,13 @@ QString CLineText::RoundTrip(const QString& text) const
     return decoder.Codec()->toUnicode(decoder.Codec()->fromUnicode(text));
 }
 
-void CLineText::SetOtherLine(CSpan raw)
+// Qt decodes a line with its line feed, which a broken character at the end of the line may swallow.
+QString CLineText::Decoded(CSpan raw, bool hasLineFeed) const
+{
+    return decoder.Decode(raw.begin, raw.Size() + (hasLineFeed && !singleUnits ? 1U : 0U));
+}
+
+void CLineText::SetOtherLine(CSpan raw, bool hasLineFeed)
 {
     changesOnTheWay = !localIsUtf8;
     const bool asTheyStand =
@@ -100,10 +106,10 @@ void CLineText::SetOtherLine(CSpan raw)
         return;
     }
     changesOnTheWay = false;
-    Assign(RoundTrip(decoder.Decode(raw.begin, raw.Size()).trimmed()));
+    Assign(RoundTrip(Decoded(raw, hasLineFeed).trimmed()));
 }
 
-void CLineText::SetRow(CSpan raw)
+void CLineText::SetRow(CSpan raw, bool hasLineFeed)
 {
     changesOnTheWay = false;
     if (singleUnits || (asciiStays && std::all_of(raw.begin, raw.end, IsAsciiByte))) {
@@ -112,7 +118,7 @@ void CLineText::SetRow(CSpan raw)
         }
         Assign(raw);
     } else {
-        Assign(decoder.Decode(raw.begin, raw.Size()));
+        Assign(Decoded(raw, hasLineFeed).remove(QLatin1Char('\n')));
     }
     if (!span.IsEmpty() && span.end[-1] == '\r') {
         --span.end;

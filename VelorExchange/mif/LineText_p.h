@@ -37,7 +37,9 @@ public:
     CLineText();
 
     /// A line of a ".mif": decoded, trimmed, encoded and decoded again by the local codec.
-    void SetLine(CSpan raw)
+    /// `hasLineFeed` tells that a line feed stands behind `raw`: a codec that holds one character in
+    /// several bytes may take it into a broken one.
+    void SetLine(CSpan raw, bool hasLineFeed = false)
     {
         if (singleUnits && !raw.IsEmpty()) {
             raw.end -= raw.end[-1] == '\r' ? 1 : 0;
@@ -48,11 +50,11 @@ public:
                 return;
             }
         }
-        SetOtherLine(raw);
+        SetOtherLine(raw, hasLineFeed);
     }
 
     /// A row of a ".mid": decoded once, without its carriage returns.
-    void SetRow(CSpan raw);
+    void SetRow(CSpan raw, bool hasLineFeed = false);
 
     CSpan Span() const { return span; }
 
@@ -90,7 +92,8 @@ private:
     }
     void Assign(const QByteArray& bytes);
     void Assign(const QString& text);
-    void SetOtherLine(CSpan raw);
+    void SetOtherLine(CSpan raw, bool hasLineFeed);
+    QString Decoded(CSpan raw, bool hasLineFeed) const;
     QString RoundTrip(const QString& text) const;
     void LearnLetters() const;
 

@@ -49,7 +49,7 @@ bool CMIDFile::NextRecord()
     if (repeatCount == 0 || !hasRow) {
         CSpan raw;
         scanner.Next(file, raw);
-        line.SetRow(raw);
+        line.SetRow(raw, scanner.HasLineFeed());
         hasRow = true;
         isCut = false;
         ++rowsTaken;

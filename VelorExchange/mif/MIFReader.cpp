@@ -105,7 +105,7 @@ bool CMIFReader::NextLine(QFile& file, bool mustExist)
 {
     CSpan raw;
     while (scanner.Next(file, raw)) {
-        line.SetLine(raw);
+        line.SetLine(raw, scanner.HasLineFeed());
         if (!line.Span().IsEmpty()) {
             return true;
         }

@@ -50,6 +50,21 @@ TEST(LineScanner, LineIsCutAtItsFirstNul)
     EXPECT_EQ(Lines(QByteArray("ab\0cd\nef\0\n\0g\nh", 14)), (CLines{"ab", "ef", "", "h"}));
 }
 
+TEST(LineScanner, TellsWhetherALineFeedStandsBehindTheLine)
+{
+    QTemporaryFile file;
+    ASSERT_TRUE(file.open());
+    file.write("a\nb\0\nc", 6);
+    file.seek(0);
+    CLineScanner scanner;
+    scanner.Start(file);
+    CSpan line;
+    for (const bool hasLineFeed : {true, false, false}) {
+        ASSERT_TRUE(scanner.Next(file, line));
+        EXPECT_EQ(scanner.HasLineFeed(), hasLineFeed);
+    }
+}
+
 TEST(LineScanner, LinesOfAllLengthsCrossTheBuffer)
 {
     QByteArray bytes;

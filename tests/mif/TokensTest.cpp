@@ -44,7 +44,7 @@ QByteArray RandomLine(std::mt19937& random, int bytesOf256)
     return line.replace('\n', 'x');
 }
 
-// A line as the description of the format makes it, with Qt alone.
+// A line as Qt alone makes it.
 QString LineByQt(const QByteArray& raw)
 {
     return QString::fromLocal8Bit(QString::fromLocal8Bit(raw).trimmed().toLocal8Bit());
@@ -160,6 +160,25 @@ TEST(LineText, RowsAreDecodedOnceAsInQt)
             line.SetRow(SpanOf(raw));
             EXPECT_EQ(line.Text(), QString::fromLocal8Bit(raw).remove(QLatin1Char('\r')))
                 << codec << ' ' << raw.toHex().constData();
+        }
+    }
+}
+
+TEST(LineText, BrokenCharacterAtTheEndMeetsTheLineFeedAsInQt)
+{
+    for (const char* codec : {"GB18030", "GBK", "Big5", "Shift_JIS", "EUC-JP", "windows-1251"}) {
+        const CLocalCodec local(codec);
+        for (const char* bytes : {"a\xEF\n", "\xEF\n", "a\xFF\n", "a\xE0\r\n", "\xEF\xBB\xBF\n"}) {
+            const QByteArray raw = bytes;
+            const CSpan withoutLineFeed{raw.constData(), raw.constData() + raw.size() - 1};
+            CLineText line;
+            line.SetLine(withoutLineFeed, true);
+            EXPECT_EQ(line.Text(), LineByQt(raw)) << codec << ' ' << raw.toHex().constData();
+            CLineText row;
+            row.SetRow(withoutLineFeed, true);
+            const QString expected =
+                QString::fromLocal8Bit(raw).remove(QLatin1Char('\r')).remove(QLatin1Char('\n'));
+            EXPECT_EQ(row.Text(), expected) << codec << ' ' << raw.toHex().constData();
         }
     }
 }
