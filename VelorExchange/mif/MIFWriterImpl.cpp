@@ -4,6 +4,7 @@
 #include "VelorExchange/foundation/TemporaryFile_p.h"
 #include "VelorExchange/mif/Tokens_p.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace VelorExchange::mif {
@@ -17,6 +18,19 @@ bool IsFinite(const QRectF& rect)
 {
     return std::isfinite(rect.x()) && std::isfinite(rect.y()) && std::isfinite(rect.width())
         && std::isfinite(rect.height());
+}
+
+bool IsFinite(const CAttributeMIF& attribute)
+{
+    const int type = attribute.value.userType();
+    return (type != QMetaType::Double && type != QMetaType::Float)
+        || std::isfinite(attribute.value.toDouble());
+}
+
+bool AreFinite(const std::vector<CAttributeMIF>& attributes)
+{
+    return std::all_of(attributes.begin(), attributes.end(),
+                       [](const CAttributeMIF& attribute) { return IsFinite(attribute); });
 }
 
 } // namespace
@@ -91,7 +105,7 @@ bool CMIFWriterImpl::Store(const QString& givenLayer, const QRectF& rect, const 
                            const CAttributeHolderMIF& record)
 {
     const QString layer = SanitizeLayerName(givenLayer);
-    if (!isFinite || !SelectLayerFile(layer, rect)) {
+    if (!isFinite || !AreFinite(record.attributes) || !SelectLayerFile(layer, rect)) {
         return false;
     }
     currentFile->write(block.Data(), block.Size());

@@ -252,6 +252,22 @@ TEST(WriterObjects, AngleThatIsNotFiniteIsRefusedOnlyWhereItIsWritten)
     EXPECT_TRUE(writing->AddText(text, kLayer));
 }
 
+TEST(WriterObjects, AttributeThatIsNotFiniteIsRefused)
+{
+    CMifWriting writing;
+    CPointMIF point;
+    for (const QVariant& bad :
+         {QVariant(kNan), QVariant(-kInfinity), QVariant::fromValue(static_cast<float>(kInfinity))})
+    {
+        point.attributes = {{QStringLiteral("n"), 1}, {QStringLiteral("a"), bad}};
+        EXPECT_FALSE(writing->AddPoint(point, kLayer));
+    }
+    point.attributes = {{QStringLiteral("a"), QStringLiteral("nan")}};
+    EXPECT_TRUE(writing->AddPoint(point, kLayer));
+    writing.Rewrite();
+    EXPECT_EQ(writing.File("a.MID"), "\"nan\"\n");
+}
+
 TEST(WriterObjects, BoundsThatWouldNotBeFiniteAreRefused)
 {
     CMifWriting writing;
