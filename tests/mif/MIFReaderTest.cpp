@@ -39,6 +39,12 @@ TEST(MIFReader, MissingRowsFileLeavesObjectsWithoutAttributes)
     EXPECT_EQ(Recorded(CMifPair("Columns 1\na Integer\nData\nPoint 1 2\n")), "AddPoint (1 2)\n");
 }
 
+TEST(MIFReader, EmptyRowsFileLeavesObjectsWithoutAttributes)
+{
+    EXPECT_EQ(RecordedWithRows("Point 1 2\nCollection\nPoint 3 4\n", ""),
+              "AddPoint (1 2)\nAddPoint (3 4)\n");
+}
+
 TEST(MIFReader, UpperCaseExtensionsAreTakenWhereLowerCaseIsMissing)
 {
     CMifPair pair;

@@ -52,6 +52,12 @@ TEST(TextParser, CornersNeedFourNumbers)
     EXPECT_EQ(RecordedObjects("Text \"a\"\n"), "");
 }
 
+TEST(TextParser, FourWordsBehindTheKeywordAreNotItsCorners)
+{
+    EXPECT_EQ(RecordedObjects("Text \"a b\" 1 2 3 4\n"), "");
+    EXPECT_EQ(RecordedObjects("Text\n1 2 3 4\n"), "");
+}
+
 TEST(TextParser, AngleIsInDegreesAndZeroLeavesIt)
 {
     EXPECT_EQ(RecordedClauses("Angle 180\n"), kBare + " angle=3.141592653589793\n");
