@@ -116,8 +116,11 @@ bool CTxtLines::Read()
 bool CTxtLines::ReadMarked()
 {
     const QByteArray block = file.read(static_cast<qint64>(kBlockSize));
+    if (block.isEmpty()) {
+        return false; // to the decoder nothing would mean the end of a character cut short
+    }
     Append(block.constData(), static_cast<std::size_t>(block.size()));
-    return !block.isEmpty();
+    return true;
 }
 
 void CTxtLines::LookForByteOrderMark(const char* data, std::size_t size)

@@ -105,6 +105,16 @@ TEST(TxtLines, ReadsAFileWithAByteOrderMarkByItsEncoding)
     }
 }
 
+TEST(TxtLines, DropsACharacterThatTheEndOfAMarkedFileCutsAsATextStream)
+{
+    const CLocalCodec codec("windows-1251");
+    ExpectAsStream("\xEF\xBB\xBF"
+                   "a\nb\xD0");
+    ExpectAsStream(QByteArray("\xFF\xFE"
+                              "a\0b",
+                              5));
+}
+
 TEST(TxtLines, KeepsBytesFromALineOn)
 {
     QTemporaryFile file;
