@@ -2,16 +2,13 @@
 #pragma once
 
 #include "VelorExchange/foundation/Export.h"
+#include "VelorExchange/foundation/ExportLog.h"
 #include "VelorExchange/foundation/Point.h"
 
 #include <QString>
 
 #include <memory>
 #include <vector>
-
-namespace VelorExchange {
-class CExportLog;
-}
 
 namespace VelorExchange::pnr {
 
