@@ -6,7 +6,7 @@
 # Where nothing may be installed, says in plain words what is missing; fails only for "build".
 set -euo pipefail
 
-build="g++ cmake ninja-build pkg-config qtbase5-dev libboost-dev libgtest-dev libcli11-dev"
+build="g++ cmake ninja-build pkg-config qtbase5-dev libqt5svg5-dev fonts-liberation libboost-dev libgtest-dev libcli11-dev"
 judges="gdal-bin libgdal-dev libdxflib-dev python3-ezdxf clang-14 libclang-rt-14-dev libbenchmark-dev valgrind g++-mingw-w64-x86-64-win32 wine64 wine doxygen"
 
 missing_of() {
