@@ -4,6 +4,7 @@
 #include "tools/velorx/HostCodec.h"
 #include "tools/velorx/info/InfoCommand.h"
 #include "tools/velorx/Output.h"
+#include "tools/velorx/render/RenderCommand.h"
 
 #include <CLI/CLI.hpp>
 
@@ -46,6 +47,7 @@ CCommands AddCommands(CLI::App& app)
     CCommands commands;
     commands.emplace_back(std::make_unique<velorx::CInfoCommand>(), nullptr);
     commands.emplace_back(std::make_unique<velorx::CConvertCommand>(), nullptr);
+    commands.emplace_back(std::make_unique<velorx::CRenderCommand>(), nullptr);
     for (auto& [command, parser] : commands) {
         parser = command->AddTo(app);
     }
