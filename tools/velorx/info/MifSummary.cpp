@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "tools/velorx/info/MifSummary.h"
 
-#include <QFile>
+#include "tools/velorx/formats/MifFiles.h"
+
 #include <QFileInfo>
 
 #include <stdexcept>
@@ -10,29 +11,17 @@ namespace velorx {
 
 using namespace VelorExchange::mif;
 
-namespace {
-
-// The one of two names that exists, as the library takes it.
-QString Existing(const QString& name, const char* extension, const char* other)
-{
-    const QString usual = name + QLatin1String(extension);
-    return QFile::exists(usual) ? usual : name + QLatin1String(other);
-}
-
-} // namespace
-
 QString CMifSummary::Read(const QString& path, VelorExchange::dxf::IDXFProgress* bar)
 {
-    const QString name = path.left(path.size() - QFileInfo(path).suffix().size() - 1);
-    if (Existing(name, ".mif", ".MIF") != path) {
-        return QStringLiteral(
-            "a table is read from NAME.mif, or from NAME.MIF where there is no NAME.mif");
+    const std::optional<SMifFiles> files = FindMifFiles(path);
+    if (!files) {
+        return MifFilesProblem();
     }
     progress = bar;
     fileSize = QFileInfo(path).size();
     header = ReadMifHeader(path);
-    follower = std::make_unique<CMifRows>(path, Existing(name, ".mid", ".MID"));
-    const QString error = Run(name);
+    follower = std::make_unique<CMifRows>(path, files->rows);
+    const QString error = Run(files->name);
     rowsTaken = follower->Taken();
     rowsLeft = follower->Left();
     follower.reset();
