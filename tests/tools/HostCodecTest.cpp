@@ -36,6 +36,20 @@ TEST_F(HostCodec, GivesPathsTheirBytesBackInEveryCodePage)
     }
 }
 
+TEST_F(HostCodec, TellsPathsAsPeopleReadThem)
+{
+    ASSERT_TRUE(SetCodePage("windows-1251"));
+    EXPECT_EQ(TextOfPath(PathFromBytes("/a/Дом.mif")), QStringLiteral("/a/Дом.mif"));
+    EXPECT_EQ(TextOfPath(PathFromBytes("\xC4\xEE\xEC")), QStringLiteral("Дом"));
+    EXPECT_EQ(PathOfText(QStringLiteral("Дом")).toLocal8Bit(), "Дом");
+}
+
+TEST_F(HostCodec, TellsItsCodePage)
+{
+    ASSERT_TRUE(SetCodePage("cp1251"));
+    EXPECT_EQ(LocalCodePage(), "windows-1251");
+}
+
 TEST_F(HostCodec, DecodesLikeTheCodePage)
 {
     ASSERT_TRUE(SetCodePage("windows-1251"));

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "tools/velorx/HostCodec.h"
 
+#include <QFile>
+
 namespace velorx {
 
 namespace {
@@ -75,6 +77,13 @@ bool IsCodePage(const std::string& name)
     return FindCodePage(name) != nullptr;
 }
 
+QString LocalCodePage()
+{
+    const QTextCodec* local = QTextCodec::codecForLocale();
+    const auto* host = dynamic_cast<const CHostCodec*>(local);
+    return host != nullptr ? host->PageName() : QString::fromLatin1(local->name());
+}
+
 QString PathFromBytes(const std::string& bytes)
 {
     QString path;
@@ -85,6 +94,18 @@ QString PathFromBytes(const std::string& bytes)
         path.append(QChar(isPlain ? byte : static_cast<ushort>(kRawByteBase + byte)));
     }
     return path;
+}
+
+QString TextOfPath(const QString& path)
+{
+    const QByteArray bytes = QFile::encodeName(path);
+    const QString text = QString::fromUtf8(bytes);
+    return text.contains(QChar::ReplacementCharacter) ? QString::fromLocal8Bit(bytes) : text;
+}
+
+QString PathOfText(const QString& text)
+{
+    return PathFromBytes(text.toUtf8().toStdString());
 }
 
 } // namespace velorx

@@ -29,6 +29,9 @@ public:
     /// The code page's number, by which the library knows single-byte code pages.
     int mibEnum() const override { return codePage.mibEnum(); }
 
+    /// Qt's name of the code page.
+    QString PageName() const { return QString::fromLatin1(codePage.name()); }
+
 protected:
     QString convertToUnicode(const char* in, int length, ConverterState* state) const override;
     QByteArray convertFromUnicode(const QChar* in, int length,
@@ -45,7 +48,17 @@ bool SetCodePage(const std::string& name);
 /// Whether `SetCodePage` would take `name`.
 bool IsCodePage(const std::string& name);
 
+/// Qt's name of the code page that text in files goes through: "windows-1251".
+QString LocalCodePage();
+
 /// A path of the command line for `QFile` and the library, once `SetCodePage` has been called.
 QString PathFromBytes(const std::string& bytes);
+
+/// A path from `PathFromBytes` as people read it: its bytes as UTF-8, or in the code page where they
+/// are none.
+QString TextOfPath(const QString& path);
+
+/// A path for `QFile` that is called `text` where people read it.
+QString PathOfText(const QString& text);
 
 } // namespace velorx
