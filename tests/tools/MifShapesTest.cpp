@@ -1,0 +1,133 @@
+// SPDX-License-Identifier: MIT
+#include "tools/velorx/features/MifShapes.h"
+
+#include "tools/velorx/features/RingNesting.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+
+namespace velorx::test {
+
+using namespace VelorExchange::mif;
+
+namespace {
+
+constexpr double kPi = 3.141592653589793;
+
+double AreaOf(const CFeatureLine& ring)
+{
+    return SignedArea(ring) / 2.0;
+}
+
+// How far the middle of a chord is from a circle at most.
+double WorstSag(const CFeatureLine& line, double x, double y, double radius)
+{
+    double worst = 0.0;
+    for (std::size_t i = 1; i < line.size(); ++i) {
+        const double middle =
+            std::hypot((line[i - 1].x + line[i].x) / 2 - x, (line[i - 1].y + line[i].y) / 2 - y);
+        worst = std::max(worst, radius - middle);
+    }
+    return worst;
+}
+
+CArcMIF Arc(double start, double end)
+{
+    CArcMIF arc;
+    arc.corner1 = {-10, -10};
+    arc.corner2 = {10, 10};
+    arc.startAngle = start;
+    arc.endAngle = end;
+    return arc;
+}
+
+} // namespace
+
+TEST(MifShapes, ArcRunsCounterClockwiseFromItsStartToItsEnd)
+{
+    const CFeatureLine line = MifArcLine(Arc(0, kPi / 2), 0.01);
+    EXPECT_NEAR(line.front().x, 10, 1e-12);
+    EXPECT_NEAR(line.front().y, 0, 1e-12);
+    EXPECT_NEAR(line.back().x, 0, 1e-12);
+    EXPECT_NEAR(line.back().y, 10, 1e-12);
+    EXPECT_NEAR(line[line.size() / 2].x, 10 * std::sqrt(0.5), 1.0);
+}
+
+TEST(MifShapes, ArcRunsOnThroughZero)
+{
+    const CFeatureLine line = MifArcLine(Arc(1.5 * kPi, 0.5 * kPi), 0.01);
+    EXPECT_NEAR(line.front().y, -10, 1e-12);
+    EXPECT_NEAR(line.back().y, 10, 1e-12);
+    EXPECT_GT(line[line.size() / 2].x, 9);
+}
+
+TEST(MifShapes, ArcOfEqualAnglesIsAWholeTurn)
+{
+    const CFeatureLine line = MifArcLine(Arc(1, 1), 0.01);
+    EXPECT_GT(line.size(), 20U);
+    EXPECT_NEAR(line.front().x, line.back().x, 1e-9);
+}
+
+TEST(MifShapes, ChordsKeepToTheTolerance)
+{
+    for (const double chord : {1.0, 0.1, 0.01, 0.0001}) {
+        const double worst = WorstSag(MifArcLine(Arc(0, 5), chord), 0, 0, 10);
+        EXPECT_LE(worst, chord * (1 + 1e-9));
+        EXPECT_GT(worst, chord / 4);
+    }
+}
+
+TEST(MifShapes, LargeToleranceStillLeavesAnOctagon)
+{
+    CRectMIF circle;
+    circle.corner2 = {2, 2};
+    EXPECT_EQ(MifEllipseRing(circle, 1e9).size(), 8U);
+}
+
+TEST(MifShapes, EllipseHasTheAreaOfOne)
+{
+    CRectMIF ellipse;
+    ellipse.corner1 = {10, 20};
+    ellipse.corner2 = {0, 0};
+    const CFeatureLine ring = MifEllipseRing(ellipse, 0.0001);
+    EXPECT_NEAR(AreaOf(ring), kPi * 5 * 10, 0.01);
+    EXPECT_GT(std::hypot(ring.front().x - ring.back().x, ring.front().y - ring.back().y), 0.01);
+}
+
+TEST(MifShapes, RectangleRunsCounterClockwise)
+{
+    EXPECT_EQ(AreaOf(MifRectRing({10, 20}, {0, 0})), 200);
+}
+
+TEST(MifShapes, RoundingIsTheDiameterThatTheFileTells)
+{
+    CRoundRectMIF rect;
+    rect.corner2 = {10, 20};
+    rect.radius = 4 * kPi / 180; // what the library makes of a 4
+    EXPECT_NEAR(AreaOf(MifRoundRectRing(rect, 0.00001)), 200 - (4 - kPi) * 2 * 2, 0.001);
+}
+
+TEST(MifShapes, RoundingIsNoMoreThanTheSidesAllow)
+{
+    CRoundRectMIF rect;
+    rect.corner2 = {10, 10};
+    rect.radius = 1000;
+    EXPECT_NEAR(AreaOf(MifRoundRectRing(rect, 0.00001)), kPi * 25, 0.001);
+    rect.radius = 0;
+    EXPECT_EQ(MifRoundRectRing(rect, 0.1).size(), 4U);
+}
+
+TEST(MifShapes, NumbersThatAreNoneDoNoHarm)
+{
+    CArcMIF arc = Arc(std::nan(""), 1);
+    arc.corner1.x = -HUGE_VAL;
+    EXPECT_LT(MifArcLine(arc, 0.01).size(), 200'000U);
+    EXPECT_LT(MifArcLine(Arc(0, 6), 1e-300).size(), 200'000U);
+    CRectMIF huge;
+    huge.corner2 = {1e300, 1e300};
+    EXPECT_LT(MifEllipseRing(huge, 1e-9).size(), 200'000U);
+}
+
+} // namespace velorx::test
