@@ -1,0 +1,242 @@
+// SPDX-License-Identifier: MIT
+#include "tools/velorx/features/MifFeatureReader.h"
+
+#include "tools/velorx/features/MifBrush.h"
+#include "tools/velorx/features/MifPen.h"
+#include "tools/velorx/features/MifShapes.h"
+#include "tools/velorx/features/MifSymbol.h"
+#include "tools/velorx/features/MifText.h"
+#include "tools/velorx/features/RingNesting.h"
+
+#include <QFileInfo>
+
+#include <utility>
+
+namespace velorx {
+
+using namespace VelorExchange::mif;
+using VelorExchange::CPoint2D;
+using VelorExchange::CPoint3D;
+
+namespace {
+
+constexpr std::size_t kLeastLine = 2;
+constexpr std::size_t kLeastRing = 3;
+
+CFeatureLine PointsOf(const std::vector<CPoint2D>& points)
+{
+    CFeatureLine line;
+    line.reserve(points.size());
+    for (const CPoint2D& point : points) {
+        line.push_back({point.x, point.y, 0.0});
+    }
+    return line;
+}
+
+// Tables close their rings by the first vertex or leave that to the reader.
+CFeatureLine RingOf(const std::vector<CPoint2D>& points)
+{
+    CFeatureLine ring = PointsOf(points);
+    while (ring.size() > 1 && ring.front().x == ring.back().x && ring.front().y == ring.back().y) {
+        ring.pop_back();
+    }
+    return ring;
+}
+
+} // namespace
+
+CMifFeatureReader::CMifFeatureReader(const SMifFiles& files, QString layer,
+                                     const SSourceOptions& sourceOptions, IFeatureSink& target,
+                                     CFeatureTally& counts)
+    : rows(files.table, files.rows), tableLayer(std::move(layer)), options(sourceOptions),
+      sink(target), tally(counts), fileSize(QFileInfo(files.table).size())
+{
+}
+
+// ---- What all objects have ----------------------------------------------------------------------
+
+void CMifFeatureReader::LoseIf(bool isLost, const char* what, const QString& layer)
+{
+    if (isLost) {
+        tally.Lose(QLatin1String(what), layer);
+    }
+}
+
+void CMifFeatureReader::FillHead(SFeature& feature, const char* kind,
+                                 const CAttributeHolderMIF& record)
+{
+    const SMifMeaning& meaning = attributes.Of(record.attributes);
+    feature.kind = kind;
+    feature.layer = meaning.layer.isEmpty() ? tableLayer : meaning.layer;
+    feature.code = meaning.code;
+    feature.attributes = meaning.attributes;
+    if (!layersTold.contains(feature.layer)) {
+        layersTold.insert(feature.layer);
+        sink.TakeLayer({feature.layer});
+    }
+    if (meaning.lostDates > 0) {
+        tally.Lose(QStringLiteral("dates that are not in a form that is read were left out"),
+                   feature.layer, meaning.lostDates);
+    }
+    if (meaning.doubtful > 0) {
+        tally.Lose(QStringLiteral("logical values that do not read \"true\" became false"),
+                   feature.layer, meaning.doubtful);
+    }
+    tally.Read(kind);
+}
+
+void CMifFeatureReader::CountPen(const CPenMIF& pen, const QString& layer)
+{
+    LoseIf(HasMarks(pen), "pen patterns of other marks than dashes became solid lines", layer);
+}
+
+// The library writes areas without a pen, so that one without a fill would show nothing: it has its
+// outline in the brush's colour, where the target of the stream puts it.
+void CMifFeatureReader::FillLook(SAreaFeature& area, const CPenMIF& pen, const CBrushMIF& brush)
+{
+    area.fill = FillOfBrush(brush);
+    area.stroke = StrokeOfPen(pen);
+    if (area.fill.kind == EFeatureFill::None && !area.stroke.isVisible) {
+        area.stroke = SFeatureStroke();
+        area.stroke.color = brush.foreColor;
+    }
+    CountPen(pen, area.layer);
+    LoseIf(HasDots(brush), "brush patterns of dots and marks have a name alone", area.layer);
+}
+
+// ---- Objects ------------------------------------------------------------------------------------
+
+template <class TRecord>
+void CMifFeatureReader::DeliverRing(const char* kind, const TRecord& record, CFeatureLine ring)
+{
+    rows.Deliver();
+    SAreaFeature area;
+    FillHead(area, kind, record);
+    FillLook(area, record.pen, record.brush);
+    area.rings.push_back(std::move(ring));
+    HandOn(area, sink, tally);
+}
+
+void CMifFeatureReader::AddRoundRect(const CRoundRectMIF& rect)
+{
+    DeliverRing("RoundRect", rect, MifRoundRectRing(rect, options.chord));
+}
+
+void CMifFeatureReader::AddEllipse(const CRectMIF& rect)
+{
+    DeliverRing("Ellipse", rect, MifEllipseRing(rect, options.chord));
+}
+
+void CMifFeatureReader::AddRect(const CRectMIF& rect)
+{
+    DeliverRing("Rect", rect, MifRectRing(rect.corner1, rect.corner2));
+}
+
+void CMifFeatureReader::AddArc(const CArcMIF& arc)
+{
+    rows.Deliver();
+    SLineFeature line;
+    FillHead(line, "Arc", arc);
+    line.points = MifArcLine(arc, options.chord);
+    line.stroke = StrokeOfPen(arc.pen);
+    CountPen(arc.pen, line.layer);
+    HandOn(line, sink, tally);
+}
+
+void CMifFeatureReader::AddText(const CTextMIF& record)
+{
+    rows.Deliver();
+    STextFeature text;
+    FillHead(text, "Text", record);
+    const SMifTextExtras extras = FillFromMifText(record, text);
+    LoseIf(extras.hasEffects, "effects of letters (halo, shadow, wide letters)", text.layer);
+    LoseIf(extras.hasBackground, "backgrounds of texts", text.layer);
+    LoseIf(extras.hasLabelLine, "lines from texts to their places", text.layer);
+    LoseIf(extras.hasNoSize, "texts without a size have a height of 1", text.layer);
+    HandOn(text, sink, tally);
+}
+
+void CMifFeatureReader::AddPolyline(const CPolylineMIF& record)
+{
+    rows.Deliver();
+    SLineFeature line;
+    FillHead(line, "Pline", record);
+    if (record.points.size() < kLeastLine) {
+        LoseIf(true, "lines of a single vertex or none", line.layer);
+        return;
+    }
+    line.points = PointsOf(record.points);
+    line.stroke = StrokeOfPen(record.pen);
+    CountPen(record.pen, line.layer);
+    LoseIf(record.smooth, "smooth lines run straight from vertex to vertex", line.layer);
+    HandOn(line, sink, tally);
+}
+
+void CMifFeatureReader::AddRegion(const CRegionMIF& record)
+{
+    if (rows.Deliver()) {
+        region = {};
+        FillHead(region, "Region", record);
+        FillLook(region, record.pen, record.brush);
+        LoseIf(record.center.x != 0.0 || record.center.y != 0.0, "centres of areas", region.layer);
+    }
+    CFeatureLine ring = RingOf(record.points);
+    if (ring.size() < kLeastRing) {
+        LoseIf(true, "rings of fewer than three vertices", region.layer);
+    } else {
+        region.rings.push_back(std::move(ring));
+    }
+}
+
+void CMifFeatureReader::DeliverArea()
+{
+    if (!region.rings.empty()) {
+        SortOutermostFirst(region.rings);
+        HandOn(region, sink, tally);
+        region.rings.clear();
+    }
+}
+
+void CMifFeatureReader::AddPoint(const CPointMIF& record)
+{
+    rows.Deliver();
+    SPointFeature point;
+    FillHead(point, "Point", record);
+    point.position = {record.position.x, record.position.y, 0.0};
+    point.symbol = SymbolOfMif(record.symbol);
+    LoseIf(HasPicture(record.symbol), "pictures of points", point.layer);
+    LoseIf(record.symbol.style != 0, "effects of symbols (border, halo, shadow)", point.layer);
+    HandOn(point, sink, tally);
+}
+
+// ---- Progress -----------------------------------------------------------------------------------
+
+void CMifFeatureReader::SetProgressRange(int /*total*/)
+{
+    if (options.progress != nullptr) {
+        options.progress->Begin(QString(), fileSize);
+    }
+}
+
+void CMifFeatureReader::SetProgress(int position)
+{
+    DeliverArea();
+    rows.Report(static_cast<quint32>(position));
+    if (options.progress != nullptr) {
+        options.progress->SetPosition(rows.Position());
+    }
+}
+
+void CMifFeatureReader::Finish()
+{
+    const qint64 left = rows.Left().value_or(0);
+    if (left > 0) {
+        tally.Remark(
+            QStringLiteral(
+                "Rows of the .mid that belong to no object: %1. Where the table has objects "
+                "without geometry, attributes stand by the wrong objects behind them")
+                .arg(left));
+    }
+}
+
+} // namespace velorx
