@@ -6,6 +6,8 @@
 #include <QJsonValue>
 #include <QString>
 
+#include <utility>
+
 namespace velorx {
 
 class CTextTable;
@@ -16,6 +18,12 @@ class CExtents
 public:
     void Add(double x, double y);
     void Add(const VelorExchange::CPoint2D& point) { Add(point.x, point.y); }
+
+    /// Lower left and upper right corner; both the origin without a point.
+    std::pair<VelorExchange::CPoint2D, VelorExchange::CPoint2D> Corners() const
+    {
+        return {least, greatest};
+    }
 
     /// Two rows, "Extents from" and "Extents to"; none without a point.
     void AddTo(CTextTable& table) const;
