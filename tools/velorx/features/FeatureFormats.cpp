@@ -5,6 +5,8 @@
 #include "tools/velorx/features/FeatureTally.h"
 #include "tools/velorx/features/SxfFeatureSource.h"
 #include "tools/velorx/features/SxfFeatureTarget.h"
+#include "tools/velorx/features/MifFeatureSource.h"
+#include "tools/velorx/features/MifFeatureTarget.h"
 
 #include <algorithm>
 #include <vector>
@@ -48,6 +50,7 @@ const std::vector<SSourceMaker>& Sources()
     static const std::vector<SSourceMaker> sources = {
         {"DXF", Source<CDxfFeatureSource>},
         {"SXF", Source<CSxfFeatureSource>},
+        {"MIF", Source<CMifFeatureSource>},
     };
     return sources;
 }
@@ -57,6 +60,7 @@ const std::vector<STargetMaker>& Targets()
     static const std::vector<STargetMaker> targets = {
         {"SXF", SxfTarget<false>},
         {"SXF text", SxfTarget<true>},
+        {"MIF", Target<CMifFeatureTarget>},
     };
     return targets;
 }
