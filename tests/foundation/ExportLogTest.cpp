@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "VelorExchange/foundation/ExportLog.h"
 
+#include <QDateTime>
 #include <QRegularExpression>
 
 #include <utility>
@@ -30,6 +31,17 @@ TEST(ExportLog, EmptyLogIsTheStampAlone)
     const QRegularExpression stamp(
         QStringLiteral("^\n\\d\\d\\.\\d\\d\\.\\d\\d, \\d{1,2}:\\d\\d:\\d\\d$"));
     EXPECT_TRUE(stamp.match(out).hasMatch()) << qPrintable(out);
+}
+
+TEST(ExportLog, StampIsTheLocalTimeOfTheCall)
+{
+    const auto stamp = [] {
+        return QDateTime::currentDateTime().toString(QStringLiteral("\ndd.MM.yy, h:mm:ss"));
+    };
+    const QString before = stamp();
+    QString out;
+    CExportLog().GetText(out);
+    EXPECT_TRUE(out == before || out == stamp()) << qPrintable(out);
 }
 
 TEST(ExportLog, PutsRuleUnderEveryString)
@@ -132,6 +144,20 @@ TEST(ExportLog, CopyIsIndependent)
     EXPECT_EQ(Body(log), QString());
 }
 
+TEST(ExportLog, CopyTakesFileSettings)
+{
+    CExportLog log;
+    log.SetFolderPath(QStringLiteral("/p/"));
+    log.SetOutputFile(QStringLiteral("f"));
+    CExportLog copy(log);
+    CExportLog assigned;
+    assigned = log;
+    for (CExportLog* taken : {&copy, &assigned}) {
+        taken->UpStatistic(QStringLiteral("k"));
+        EXPECT_TRUE(Body(*taken).contains(QStringLiteral("файл - /p/f\n")));
+    }
+}
+
 TEST(ExportLog, MoveTakesStatistics)
 {
     CExportLog log;
@@ -146,12 +172,16 @@ TEST(ExportLog, MoveTakesStatistics)
     EXPECT_TRUE(Body(assigned).contains(QStringLiteral("k - 1")));
 }
 
-TEST(ExportLog, MoveTakesFileSettings)
+TEST(ExportLog, MoveTakesTextAndFileSettings)
 {
     CExportLog log;
     log.SetFolderPath(QStringLiteral("/p/"));
     log.SetOutputFile(QStringLiteral("f"));
+    log.AddString(QStringLiteral("line"));
     CExportLog moved(std::move(log));
-    moved.UpStatistic(QStringLiteral("k"));
-    EXPECT_TRUE(Body(moved).contains(QStringLiteral("файл - /p/f\n")));
+    CExportLog assigned;
+    assigned = std::move(moved);
+    assigned.UpStatistic(QStringLiteral("k"));
+    EXPECT_TRUE(Body(assigned).startsWith(QStringLiteral("\nline")));
+    EXPECT_TRUE(Body(assigned).contains(QStringLiteral("файл - /p/f\n")));
 }

@@ -113,6 +113,21 @@ TEST(AppendFileContents, TargetThatDoesNotFlushIsNamed)
     }
 }
 
+TEST(AppendFileContents, SourceThatDoesNotFlushIsNamed)
+{
+    const auto target = OpenTemporaryFile();
+    QFile source(QStringLiteral("/dev/full"));
+    ASSERT_TRUE(source.open(QIODevice::ReadWrite));
+    source.write("held back in the buffer");
+    try {
+        AppendFileContents(*target, source);
+        FAIL() << "a full disk passed unnoticed";
+    } catch (const FileError& error) {
+        EXPECT_EQ(error.fileName, QStringLiteral("/dev/full"));
+    }
+    EXPECT_EQ(target->size(), 0);
+}
+
 TEST(AppendFileContents, UnreadableSourceIsNamed)
 {
     const auto target = OpenTemporaryFile();
