@@ -93,6 +93,28 @@ TEST(MIFReader, FirstKeywordOfTheOrderWins)
     EXPECT_EQ(RecordedObjects("RoundRect 1 2 3 4 0\n"), "AddRoundRect (1 2)(3 4) radius=0\n");
 }
 
+TEST(MIFReader, KeywordsAreTriedInTheirOrder)
+{
+    struct CCase
+    {
+        const char* data; // its first line holds two keywords, the later one of the order first
+        const char* calls;
+    };
+    for (const CCase& known :
+         {CCase{"Text Region\nx\n1 2 3 4\n", ""},
+          CCase{"Multipoint 1 Text\n1 2\n3 4 5 6\n", "AddText <1 2> (3 4)(5 6)\n"},
+          CCase{"Point 7 8 Multipoint\n", ""}, CCase{"PLine 1 2 Point\n", "AddPoint (1 2)\n"},
+          CCase{"Line 1 2 3 PLine\n1\n5 6\n", "AddPolyline (5 6)\n"},
+          CCase{"Arc 1 2 3 4 0 90 Line\n", "AddPolyline (1 2)(3 4)\n"},
+          CCase{"RoundRect 1 2 3 4 Arc\n0 0\n", "AddArc (1 2)(3 4) angles=0,0\n"},
+          CCase{"Rect 1 2 3 4 RoundRect\n0\n", "AddRoundRect (1 2)(3 4) radius=0\n"},
+          CCase{"Ellipse 1 2 3 4 Rect\n", "AddRect (1 2)(3 4)\n"},
+          CCase{"Collection 1 2 3 Ellipse\n", "AddEllipse (1 2)(3 0)\n"}})
+    {
+        EXPECT_EQ(RecordedObjects(known.data), known.calls) << known.data;
+    }
+}
+
 TEST(MIFReader, LineWithoutKeywordTakesNoRow)
 {
     EXPECT_EQ(RecordedWithRows("None\nPoint 1 2\n", "1\n2\n"), "AddPoint (1 2) [n=int:1]\n");

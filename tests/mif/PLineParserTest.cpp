@@ -54,6 +54,12 @@ TEST(PLineParser, PenAndSmoothStandInAnyOrder)
               "AddPolyline (1 2) pen=3,2,#000000 smooth\n");
 }
 
+TEST(PLineParser, LineOfBothClausesIsAPen)
+{
+    EXPECT_EQ(RecordedObjects("PLine 1\n1 2\nsmooth Pen (2,3,4)\n"),
+              "AddPolyline (1 2) pen=2,3,#040000\n");
+}
+
 TEST(PLineParser, TokensBehindAVertexAreIgnored)
 {
     EXPECT_EQ(RecordedObjects("PLine 2\n1 2 3\n\n\t3\t4 x\n"), "AddPolyline (1 2)(3 4)\n");

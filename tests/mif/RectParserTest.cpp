@@ -28,6 +28,12 @@ TEST(RectParser, AnyOtherLineEndsTheClauses)
               "AddRect (1 2)(3 4)\nAddPoint (1 2)\n");
 }
 
+TEST(RectParser, LineOfBothClausesIsAPen)
+{
+    EXPECT_EQ(RecordedObjects("Rect 1 2 3 4\nBrush (5,6,7) Pen (8,9,10)\n"),
+              "AddRect (1 2)(3 4) pen=5,6,#070000\n");
+}
+
 TEST(RectParser, ShortClauseDropsTheObject)
 {
     EXPECT_EQ(RecordedObjects("Rect 1 2 3 4\nPen (3,5)\nPoint 1 2\n"), "AddPoint (1 2)\n");

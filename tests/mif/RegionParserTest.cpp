@@ -16,6 +16,15 @@ TEST(RegionParser, RingsGoOutApartWithEqualClausesAndAttributes)
               "AddPoint (1 1) [n=int:2]\n");
 }
 
+TEST(RegionParser, ClausesAreTriedInTheirOrder)
+{
+    const QByteArray region = "Region 1\n3\n1 2\n3 4\n5 6\n";
+    const std::string bare = "AddRegion (1 2)(3 4)(5 6)";
+    EXPECT_EQ(RecordedObjects(region + "Center 7 8 Brush (5,6)\n"),
+              bare + " brush=5,#060000,#ffffff\n");
+    EXPECT_EQ(RecordedObjects(region + "Brush (5,6,7) Pen\n"), bare + " pen=5,6,#070000\n");
+}
+
 TEST(RegionParser, RingOfTwoVerticesDisappears)
 {
     EXPECT_EQ(RecordedObjects("Region 2\n2\n9 9\n8 8\n3\n1 2\n3 4\n5 6\n"),

@@ -96,6 +96,15 @@ TEST(TextParser, ClausesStandInAnyOrder)
                     " label=(7 8)\nAddPoint (1 2)\n");
 }
 
+TEST(TextParser, ClausesAreTriedInTheirOrder)
+{
+    EXPECT_EQ(RecordedClauses("Angle 180 Font (\"F\",1,0,255)\n"),
+              kBare + " font=F,1,0,#ff0000,#ffffff\n");
+    EXPECT_EQ(RecordedClauses("Spacing 180 Angle\n"), kBare + " angle=3.141592653589793\n");
+    EXPECT_EQ(RecordedClauses("Justify 2 Right Spacing\n"), kBare + " spacing=2\n");
+    EXPECT_EQ(RecordedClauses("Label Line Right 7 8 Justify\n"), kBare + " justify=2\n");
+}
+
 TEST(TextParser, PenEndsTheClauses)
 {
     EXPECT_EQ(RecordedClauses("Pen (1,2,0)\nAngle 180\n"), kBare + "\n");
