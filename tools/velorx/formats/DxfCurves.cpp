@@ -14,7 +14,7 @@ namespace {
 constexpr double kPi = 3.141592653589793;
 constexpr double kTwoPi = 2 * kPi;
 constexpr std::size_t kDegree = 3;
-constexpr std::size_t kPartsOfHighDegree = 4; // pieces for each span of a degree above the third
+constexpr std::size_t kPartsOfHighDegree = 16; // pieces for each span of a degree above the third
 
 CPoint3D Along(const CPoint3D& a, const CPoint3D& b, double part)
 {
