@@ -18,7 +18,7 @@ constexpr int kHexadecimal = 16;
 bool HasPlaceInDrawing(QChar c)
 {
     static const QTextCodec* const codec = QTextCodec::codecForName("windows-1251");
-    return c.unicode() < kFirstBeyondAscii || codec->canEncode(c);
+    return c.unicode() < kFirstBeyondAscii || (!c.isSurrogate() && codec->canEncode(c));
 }
 
 QString TextForDrawing(const QString& text, bool& isWhole)
