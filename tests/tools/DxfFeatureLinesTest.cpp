@@ -313,6 +313,35 @@ TEST(DxfFeatureLines, ClosedPolylineOfTheOldFormBendsBackToItsStart)
     EXPECT_NEAR(top, 5, 0.001);
 }
 
+TEST(DxfFeatureLines, ColourByLayerWrittenOutIsThatOfTheLayer)
+{
+    CDxfStream stream;
+    stream.Table("0 LAYER, 2 Red, 62 1");
+    const auto& read = stream.Entities("0 LINE, 8 red, 62 256, 11 1").Read();
+    EXPECT_EQ(read.lines.at(0).stroke.color, 0xFFU);
+    EXPECT_EQ(stream.Losses(), "");
+}
+
+TEST(DxfFeatureLines, ColourByLayerAmongWhiteLinesIsListed)
+{
+    CDxfStream stream;
+    stream.Table("0 LAYER, 2 Red, 62 1");
+    const auto& read =
+        stream.Entities("0 LINE, 8 Red, 62 256, 11 1, 0 LINE, 8 Red, 62 7, 11 1").Read();
+    EXPECT_EQ(read.lines.at(0).stroke.color, 0U);
+    EXPECT_EQ(stream.Lost("elements with the colour \"by layer\" written out, in colour 7"),
+              "1: Red 1");
+}
+
+TEST(DxfFeatureLines, LettersOfLineTypesAreListed)
+{
+    CDxfStream stream;
+    stream.Table("0 LTYPE, 2 GAS, 49 1, 74 2, 340 2A, 9 G, 49 -1, 0 STYLE, 5 2A, 2 Plan");
+    stream.Entities("0 LINE, 8 A, 6 GAS, 11 1").Read();
+    EXPECT_EQ(stream.Lost("line types with letters or shapes, drawn with their dashes alone"),
+              "1: ");
+}
+
 TEST(DxfFeatureLines, MultilineBecomesItsLines)
 {
     CDxfStream stream;

@@ -104,6 +104,16 @@ TEST(DxfFeatureTexts, PlacesOfALongTextAreTheNineOfItsFrame)
     }
 }
 
+TEST(DxfFeatureTexts, PiecesOfALongTextAreJoined)
+{
+    CDxfStream stream;
+    const std::string piece(250, 'a');
+    const std::string groups = "0 MTEXT, 8 A, 40 2, 3 " + piece + ", 3 " + piece + ", 1 b";
+    EXPECT_EQ(stream.Entities(groups.c_str()).Read().texts.at(0).text.toStdString(),
+              piece + piece + 'b');
+    EXPECT_EQ(stream.Losses(), "");
+}
+
 TEST(DxfFeatureTexts, FormattingWithinALongTextIsListed)
 {
     CDxfStream stream;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
-// The frame: tables, blocks, and what all elements have in common.
+// What all elements have in common, and blocks.
 #include "tools/velorx/convert/DxfReplay.h"
+
+#include "tools/velorx/formats/DrawingText.h"
 
 #include <boost/variant2/variant.hpp>
 
@@ -17,7 +19,7 @@ namespace {
 constexpr double kNoLineWeight = 1000.0;
 constexpr double kByBlockLineWeight = -2.0;
 constexpr double kHundredths = 100.0;
-constexpr char kContinuous[] = "CONTINUOUS";
+constexpr int kObjects = 4; // stage of the gate
 
 // Blocks that hold what stands on the model and on the sheets, in both spellings.
 constexpr const char* kLayoutBlocks[] = {"*MODEL_SPACE", "*PAPER_SPACE", "$MODEL_SPACE",
@@ -31,20 +33,44 @@ bool IsLayoutBlock(const QString& name)
                        });
 }
 
+struct SLayerOf
+{
+    QString operator()(const CAttDefDXF& /*record*/) const { return {}; }
+    template <class TRecord>
+    QString operator()(const TRecord& record) const
+    {
+        return record.layer;
+    }
+};
+
 } // namespace
 
-CDxfReplay::CDxfReplay(IDXFWriter& target, const CDxfSurvey& firstLook, CDxfTally& counts,
-                       IDXFProgress* bar)
-    : writer(target), survey(firstLook), tally(counts), progress(bar)
+CDxfReplay::CDxfReplay(IDXFWriter& target, int version, const CDxfSurvey& firstLook,
+                       CDxfTally& counts, IDXFProgress* bar)
+    : writer(target), survey(firstLook), tally(counts), progress(bar),
+      colours(firstLook.Colours(), version)
 {
-    for (const char* name : {"ByBlock", "ByLayer", kContinuous}) {
+    for (const char* name : {"ByBlock", "ByLayer", "CONTINUOUS"}) {
         lineTypeNames.Define(QLatin1String(name), QLatin1String(name));
     }
     textStyleNames.Define(QStringLiteral("STANDARD"), QStringLiteral("STANDARD"));
     layerNames.Define(QString(), QStringLiteral("0"));
+    layerNames.Define(QStringLiteral("0"), QStringLiteral("0"));
     // The writer keeps the first away from an element's layer and has the second as a style of its own.
     layerNames.Define(QStringLiteral("DEFPOINTS"), QStringLiteral("Defpoints_1"));
     mlineStyleNames.Reserve(QStringLiteral("STANDARD"));
+}
+
+bool CDxfReplay::OnSection(int stage)
+{
+    return stage != kObjects || !survey.AreObjectsAhead();
+}
+
+void CDxfReplay::Note(EDxfLoss loss, bool isLost, int count)
+{
+    if (isLost) {
+        losses.emplace_back(loss, count);
+    }
 }
 
 bool CDxfReplay::Count(EDxfKind kind, bool isWritten, const char* as)
@@ -52,9 +78,13 @@ bool CDxfReplay::Count(EDxfKind kind, bool isWritten, const char* as)
     tally.Read(kind, writer.IsInBlock());
     if (isWritten) {
         tally.Wrote(kind, as);
+        for (const auto& [loss, count] : losses) {
+            tally.Lose(loss, layerInHand, count);
+        }
     } else {
-        tally.Lose(EDxfLoss::Refused);
+        tally.Lose(EDxfLoss::Refused, layerInHand);
     }
+    losses.clear();
     return isWritten;
 }
 
@@ -68,8 +98,9 @@ bool CDxfReplay::CountText(EDxfKind kind, const QString& text, bool isWritten)
     if (!text.isEmpty()) {
         return Count(kind, isWritten);
     }
+    losses.clear();
     tally.Read(kind, writer.IsInBlock());
-    tally.Lose(EDxfLoss::EmptyTexts);
+    tally.Lose(EDxfLoss::EmptyTexts, layerInHand);
     return false;
 }
 
@@ -77,19 +108,25 @@ bool CDxfReplay::CountText(EDxfKind kind, const QString& text, bool isWritten)
 
 void CDxfReplay::AdaptLayer(QString& layer)
 {
+    layerInHand = layer.isEmpty() ? QStringLiteral("0") : layer;
     layer = layerNames.Of(layer);
     if (writer.IsInBlock() && layer != QLatin1String("0")) {
-        tally.Lose(EDxfLoss::BlockLayers);
         const auto found = layers.constFind(layer);
-        if (found != layers.constEnd() && !found->isVisible) {
-            tally.Lose(EDxfLoss::HiddenInBlocks);
-        }
+        Note(EDxfLoss::BlockLayers);
+        Note(EDxfLoss::HiddenInBlocks, found != layers.constEnd() && !found->isVisible);
     }
+}
+
+void CDxfReplay::Adapt(QString& layer, quint32& colour)
+{
+    AdaptLayer(layer);
+    colour = colours.Of(colour, {layerInHand, layer, blockInHand, writer.IsInBlock()});
+    Note(EDxfLoss::PaletteColours, colours.IsNearest(colour));
 }
 
 void CDxfReplay::AdaptHead(CEntityDXF& head)
 {
-    AdaptLayer(head.layer);
+    Adapt(head.layer, head.color);
     head.lineStyle.name = lineTypeNames.Of(head.lineStyle.name);
     head.lineWeight = LineWeight(head.lineWeight, head.layer);
 }
@@ -98,7 +135,7 @@ void CDxfReplay::AdaptHead(CEntityDXF& head)
 double CDxfReplay::LineWeight(double hundredths, const QString& layer)
 {
     if (hundredths == kByBlockLineWeight) {
-        tally.Lose(EDxfLoss::BlockLineWeights);
+        Note(EDxfLoss::BlockLineWeights);
         return kNoLineWeight;
     }
     if (!(hundredths > 0)) {
@@ -108,75 +145,41 @@ double CDxfReplay::LineWeight(double hundredths, const QString& layer)
     return hundredths > 0 ? hundredths / kHundredths : kNoLineWeight;
 }
 
-// For kinds that the writer writes without one.
-void CDxfReplay::DropLineType(const CEntityDXF& head)
-{
-    if (head.lineStyle.name != QLatin1String(kContinuous)) {
-        tally.Lose(EDxfLoss::LineTypesDropped);
-    }
-}
-
-// ---- Tables ------------------------------------------------------------------------------------
-
-bool CDxfReplay::OnLayer(const CLayerDXF& record)
-{
-    const QString name = layerNames.Of(record.name);
-    if (!layers.contains(name)) {
-        layers.insert(name, {record.visible, record.lineWeight});
-    }
-    if (lineTypeNames.Of(record.lineType) != QLatin1String(kContinuous)) {
-        tally.Lose(EDxfLoss::LayerLineTypes);
-    }
-    writer.AddLayer(name, record.visible, !record.unlocked);
-    return true;
-}
-
-bool CDxfReplay::OnTextStyle(const CTextStyleDXF& record)
-{
-    CTextStyleDXF style = record;
-    style.name = textStyleNames.Of(record.name);
-    const QString own = CTextStyleDXF().name;
-    if (style.name == own && style.fontFile != CTextStyleDXF().fontFile) {
-        tally.Lose(EDxfLoss::TextStyleFonts);
-    }
-    writer.AddTextStyle(style, false);
-    return true;
-}
-
-bool CDxfReplay::OnLineStyle(const CLineStyleDXF& record)
-{
-    const CLineStyleDXF* known = survey.LineType(record.name);
-    CLineStyleDXF style = known != nullptr ? *known : record;
-    style.name = lineTypeNames.Of(record.name);
-    writer.AddLineStyle(style);
-    return true;
-}
-
 // ---- Blocks ------------------------------------------------------------------------------------
 
 bool CDxfReplay::OnBlock(const CBlockDXF& record)
 {
-    const auto size = static_cast<qint64>(record.entities.size());
     if (IsLayoutBlock(record.name)) {
-        tally.Lose(EDxfLoss::LayoutBlocks, size);
+        Skip(record, EDxfLoss::LayoutBlocks);
         return true;
     }
     if (record.name.isEmpty()) {
-        tally.Lose(EDxfLoss::NamelessBlocks, size);
+        Skip(record, EDxfLoss::NamelessBlocks);
         return true;
     }
     const QString name = blockNames.Of(record.name);
     if (definedBlocks.contains(name)) {
-        tally.Lose(EDxfLoss::RepeatedBlocks);
+        Skip(record, EDxfLoss::RepeatedBlocks);
         return true;
     }
     definedBlocks.insert(name);
-    writer.BeginBlock(name, false, QString());
+    blockInHand = record.name;
+    attDefs = 0;
+    bool isWhole = true;
+    writer.BeginBlock(name, false, TextForDrawing(survey.OutsideFile(record.name), isWhole));
     for (const CEntityVariantDXF& entity : record.entities) {
         Replay(entity);
     }
     writer.EndBlock();
     return true;
+}
+
+void CDxfReplay::Skip(const CBlockDXF& block, EDxfLoss loss)
+{
+    for (const CEntityVariantDXF& entity : block.entities) {
+        tally.Read(KindOf(entity), true);
+        tally.Lose(loss, boost::variant2::visit(SLayerOf(), entity));
+    }
 }
 
 void CDxfReplay::Replay(const CEntityVariantDXF& entity)
@@ -199,12 +202,7 @@ void CDxfReplay::Replay(const CEntityVariantDXF& entity)
         void operator()(const CImageDXF&) { } // the reader delivers images outside blocks
         void operator()(const CRayDXF& record) { host.OnRay(record); }
         void operator()(const CMLineDXF& record) { host.OnMLine(record); }
-        // Neither place nor height of the definition is known.
-        void operator()(const CAttDefDXF&)
-        {
-            host.tally.Read(kAttDef, true);
-            host.tally.Lose(EDxfLoss::AttDefs);
-        }
+        void operator()(const CAttDefDXF& record) { host.ReplayAttDef(record); }
         void operator()(const CInsertDXF& record) { host.OnInsert(record); }
         void operator()(const CEllipseDXF& record) { host.OnEllipse(record); }
     };
@@ -220,7 +218,14 @@ void CDxfReplay::Finish()
             writer.EndBlock();
         }
     }
-    tally.Lose(EDxfLoss::Names,
+    const QStringList styles = survey.MLineStyleNames();
+    for (const QString& name : styles) {
+        const bool isOwn = name == QLatin1String("standard");
+        tally.Lose(EDxfLoss::UnusedMLineStyles, QString(),
+                   isOwn || drawnMLineStyles.contains(name) ? 0 : 1);
+    }
+    colours.AddLosses(tally);
+    tally.Lose(EDxfLoss::Names, QString(),
                layerNames.Changed() + lineTypeNames.Changed() + textStyleNames.Changed()
                    + mlineStyleNames.Changed() + blockNames.Changed());
 }

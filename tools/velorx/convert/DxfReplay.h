@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "tools/velorx/convert/DxfReplayColours.h"
 #include "tools/velorx/convert/SafeNames.h"
 #include "tools/velorx/formats/DxfSurvey.h"
 #include "tools/velorx/formats/DxfTally.h"
@@ -10,6 +11,10 @@
 #include <QHash>
 #include <QSet>
 #include <QString>
+
+#include <set>
+#include <utility>
+#include <vector>
 
 namespace velorx {
 
@@ -21,10 +26,12 @@ namespace velorx {
 class CDxfReplay final : public VelorExchange::dxf::IDXFReader
 {
 public:
-    /// All four outlive this object. `bar` can be null.
-    CDxfReplay(VelorExchange::dxf::IDXFWriter& target, const CDxfSurvey& firstLook,
+    /// All four outlive this object. `bar` can be null. `version` is that of the drawing to write.
+    CDxfReplay(VelorExchange::dxf::IDXFWriter& target, int version, const CDxfSurvey& firstLook,
                CDxfTally& counts, VelorExchange::dxf::IDXFProgress* bar);
 
+    /// Objects end the reading, so that they are left alone where more stands behind them.
+    bool OnSection(int stage) override;
     bool OnPolyline(const VelorExchange::dxf::CPolylineDXF& record) override;
     bool OnMLine(const VelorExchange::dxf::CMLineDXF& record) override;
     bool OnEllipse(const VelorExchange::dxf::CEllipseDXF& record) override;
@@ -59,36 +66,52 @@ private:
         int lineWeight = 0; ///< Hundredths of a millimetre; zero and below are markers.
     };
 
-    /// Counts an element as read, and as written where the writer took it.
+    /// Notes what the element in hand loses or has changed. It is counted if the element is written.
+    void Note(EDxfLoss loss, bool isLost = true, int count = 1);
+
+    /// Counts the element in hand as read, and as written, with its losses, where the writer took it.
     bool Count(EDxfKind kind, bool isWritten, const char* as);
     bool Count(EDxfKind kind, bool isWritten);
     bool CountText(EDxfKind kind, const QString& text, bool isWritten);
+    void Skip(const VelorExchange::dxf::CBlockDXF& block, EDxfLoss loss);
 
     void AdaptLayer(QString& layer);
+    void Adapt(QString& layer, quint32& colour);
     void AdaptHead(VelorExchange::dxf::CEntityDXF& head);
     double LineWeight(double hundredths, const QString& layer);
-    void DropLineType(const VelorExchange::dxf::CEntityDXF& head);
     void AdaptText(VelorExchange::dxf::CTextDXF& text);
     void AdaptInOneLine(VelorExchange::dxf::CTextDXF& text);
     void AdaptStyle(VelorExchange::dxf::CTextStyleDXF& style);
+    void AdaptTag(VelorExchange::dxf::CAttribDXF& attribute);
     int Alignment(int horizontal);
+    void RegisterTextStyle(const QString& name);
+    QString RegisterLineType(const QString& name);
     void Replay(const VelorExchange::dxf::CEntityVariantDXF& entity);
+    void ReplayAttDef(const VelorExchange::dxf::CAttDefDXF& record);
     bool WriteAsSpacePolyline(VelorExchange::dxf::CPolylineDXF& polyline);
     bool WriteAsPlanPolyline(const VelorExchange::dxf::CPolylineDXF& polyline);
+    void TakePattern(const VelorExchange::dxf::CHatchDXF& record,
+                     VelorExchange::dxf::CHatchDXF& hatch);
 
     VelorExchange::dxf::IDXFWriter& writer;
     const CDxfSurvey& survey;
     CDxfTally& tally;
     VelorExchange::dxf::IDXFProgress* progress;
+    CDxfReplayColours colours;
     CSafeNames layerNames;
     CSafeNames lineTypeNames;
     CSafeNames textStyleNames;
     CSafeNames mlineStyleNames;
     CSafeNames blockNames;
+    QString layerInHand; ///< Of the element in hand, as in the source.
+    std::vector<std::pair<EDxfLoss, int>> losses; ///< Of the element in hand.
+    QString blockInHand; ///< As in the source.
+    std::size_t attDefs = 0; ///< Met in the block in hand.
     QHash<QString, SLayer> layers; ///< By the name in the target.
     QHash<QString, VelorExchange::dxf::CMLineStyleDXF> mlineStyles; ///< By the name as given.
+    QSet<QString> drawnMLineStyles; ///< By the name in the source, without case.
     QSet<QString> definedBlocks; ///< By the name in the target.
-    QSet<QString> insertedBlocks; ///< By the name in the target.
+    std::set<QString> insertedBlocks; ///< By the name in the target.
 };
 
 } // namespace velorx

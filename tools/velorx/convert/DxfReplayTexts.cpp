@@ -56,7 +56,7 @@ int CDxfReplay::Alignment(int horizontal)
     if (horizontal == kLeft) {
         return kBaseLine;
     }
-    if (survey.IsPositionTheAnchor()) {
+    if (survey.Texts().IsPositionTheAnchor()) {
         switch (horizontal) {
         case kCentre:
             return kCentre + kBaseLine;
@@ -68,36 +68,36 @@ int CDxfReplay::Alignment(int horizontal)
             break;
         }
     }
-    tally.Lose(EDxfLoss::TextAlignments);
+    Note(EDxfLoss::TextAlignments);
     return kBaseLine;
 }
 
+// The writer wants the slant in degrees.
 void CDxfReplay::AdaptStyle(CTextStyleDXF& style)
 {
-    CTextStyleDXF
-        plain; // what is not in the table gets an entry without the text's own width and slant
-    plain.name = style.name.trimmed().isEmpty() ? plain.name : textStyleNames.Of(style.name);
-    writer.AddTextStyle(plain, false);
-    style.name = plain.name;
+    if (style.name.trimmed().isEmpty()) {
+        style.name = CTextStyleDXF().name;
+    }
+    RegisterTextStyle(style.name);
+    style.name = textStyleNames.Of(style.name);
     style.obliqueAngle /= kDegree;
 }
 
 void CDxfReplay::AdaptText(CTextDXF& text)
 {
-    AdaptLayer(text.layer);
+    Adapt(text.layer, text.color);
     AdaptStyle(text.style);
     bool isWhole = true;
     text.text = TextForDrawing(text.text, isWhole);
-    tally.Lose(EDxfLoss::Letters, isWhole ? 0 : 1);
+    Note(EDxfLoss::Letters, !isWhole);
 }
 
 void CDxfReplay::AdaptInOneLine(CTextDXF& text)
 {
     AdaptText(text);
-    text.alignment = Alignment(text.alignment);
     const QString simplified = text.text.simplified();
-    tally.Lose(EDxfLoss::TextBlanks, simplified.size() != text.text.trimmed().size() ? 1 : 0);
-    tally.Lose(EDxfLoss::LongTexts, simplified.size() > kLongestText ? 1 : 0);
+    Note(EDxfLoss::TextBlanks, simplified.size() != text.text.trimmed().size());
+    Note(EDxfLoss::LongTexts, simplified.size() > kLongestText);
 }
 
 // The reader puts the relative width of a TEXT into the style's height.
@@ -105,6 +105,7 @@ bool CDxfReplay::OnText(const CTextDXF& record)
 {
     CTextDXF text = record;
     AdaptInOneLine(text);
+    text.alignment = Alignment(record.alignment);
     text.style.widthFactor = record.style.height != 0 ? record.style.height : 1.0;
     return CountText(kText, record.text, writer.AddText(text));
 }
@@ -112,30 +113,61 @@ bool CDxfReplay::OnText(const CTextDXF& record)
 bool CDxfReplay::OnMText(const CMTextDXF& record)
 {
     CMTextDXF text = record;
+    text.text = survey.Texts().WithoutSeams(record.text);
     AdaptText(text);
     text.alignment = AttachmentForWriter(record.alignment);
     return CountText(kMText, record.text, writer.AddMText(text));
+}
+
+// The reader keeps tag and value of a definition; the rest stands in the survey, in the same order.
+void CDxfReplay::ReplayAttDef(const CAttDefDXF& record)
+{
+    const SDxfAttDef* told = survey.AttDefs().Find(blockInHand, attDefs);
+    ++attDefs;
+    layerInHand.clear();
+    bool isWritten = false;
+    if (told != nullptr && told->text.tag == record.tag) {
+        CAttribDXF text = told->text;
+        text.color = colours.Of(*told);
+        AdaptTag(text);
+        AdaptInOneLine(text);
+        isWritten = writer.AddAttribute(text, false);
+    }
+    Count(kAttDef, isWritten);
+}
+
+void CDxfReplay::AdaptTag(CAttribDXF& attribute)
+{
+    bool isWhole = true;
+    attribute.tag = TextForDrawing(attribute.tag, isWhole);
+    Note(EDxfLoss::Letters, !isWhole);
 }
 
 // The writer turns inserts the other way round.
 bool CDxfReplay::OnInsert(const CInsertDXF& record)
 {
     CInsertDXF insert = record;
-    AdaptLayer(insert.layer);
+    for (CAttribDXF& attribute : insert.attributes) {
+        const int horizontal = attribute.alignment;
+        AdaptInOneLine(attribute);
+        attribute.alignment = Alignment(horizontal);
+        AdaptTag(attribute);
+    }
+    Adapt(insert.layer, insert.color);
     insert.point = WithoutBase(record, survey.BasePoint(record.name));
     insert.rotation = kTwoPi - record.rotation * kDegree;
-    if (!record.name.isEmpty()) {
-        insert.name = blockNames.Of(record.name);
-        insertedBlocks.insert(insert.name);
-    }
     const bool isContinuous =
         lineTypeNames.Of(record.lineStyle.name) == QLatin1String("CONTINUOUS");
-    tally.Lose(EDxfLoss::InsertLineTypes, isContinuous ? 0 : 1);
-    tally.Lose(EDxfLoss::InsertScaleZ, record.scaleZ == 1.0 ? 0 : 1);
-    for (CAttribDXF& attribute : insert.attributes) {
-        AdaptInOneLine(attribute);
+    Note(EDxfLoss::InsertLineTypes, !isContinuous);
+    Note(EDxfLoss::InsertScaleZ, record.scaleZ != 1.0);
+    if (!record.name.isEmpty()) {
+        insert.name = blockNames.Of(record.name);
     }
-    return Count(kInsert, writer.AddInsert(insert));
+    const bool isWritten = writer.AddInsert(insert);
+    if (isWritten) {
+        insertedBlocks.insert(insert.name);
+    }
+    return Count(kInsert, isWritten);
 }
 
 } // namespace velorx

@@ -43,11 +43,12 @@ QString ConvertDxfToDxf(const SConversionJob& job, CConversionReport& report)
                                                                     DeleteDXFWriter);
     writer->Init(job.options.drawingVersion, &log);
     writer->SetPrecision(job.options.precision);
-    CDxfReplay replay(*writer, survey, tally, job.progress);
+    CDxfReplay replay(*writer, job.options.drawingVersion, survey, tally, job.progress);
     if (!Read(job.source, &replay)) {
         return QStringLiteral("the drawing ends inside a block");
     }
     replay.Finish();
+    tally.EndReading();
     writer->Rewrite(job.target);
     log.GetText(report.log);
     tally.FillReport(report);

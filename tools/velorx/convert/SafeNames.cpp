@@ -37,6 +37,12 @@ void CSafeNames::Define(const QString& source, const QString& target)
     Reserve(target);
 }
 
+void CSafeNames::Withdraw(const QString& source)
+{
+    folded.remove(source.toCaseFolded());
+    exact.clear();
+}
+
 QString CSafeNames::Of(const QString& source)
 {
     const auto known = exact.constFind(source);

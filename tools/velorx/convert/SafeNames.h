@@ -20,6 +20,10 @@ public:
     /// `source`, in any case, is spelled `target`, which is safe.
     void Define(const QString& source, const QString& target);
 
+    /// Forgets the definition of `source`, in any case, but keeps its spelling out of use, so that the name
+    /// gets another one.
+    void Withdraw(const QString& source);
+
     /// The spelling of `source`. What is empty when made safe becomes "_".
     QString Of(const QString& source);
 

@@ -33,6 +33,7 @@ constexpr char kFormats[] = "texts with formatting that is dropped";
 constexpr char kAnchors[] =
     "texts set by their middle or right end, set by the left one at the same place";
 constexpr char kMirroredTexts[] = "texts mirrored by their insert, written to be read";
+constexpr char kLineTypes[] = "line types with letters or shapes, drawn with their dashes alone";
 constexpr char kNoHeight[] = "texts without a height, written 2.5 units high";
 
 } // namespace velorx::losses

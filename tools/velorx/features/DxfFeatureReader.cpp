@@ -4,6 +4,7 @@
 
 #include "tools/velorx/features/DxfFeatureLosses.h"
 #include "tools/velorx/features/FiniteFeature.h"
+#include "tools/velorx/formats/DxfSurvey.h"
 
 #include <algorithm>
 #include <cmath>
@@ -85,7 +86,8 @@ bool CDxfFeatureReader::IsFloating(const QString& layer) const
 quint32 CDxfFeatureReader::ColourOf(quint32 color, const QString& layer) const
 {
     const bool isByLayer = color == kByBlockColor
-        || (IsFloating(layer) && color == styles.Layer(QStringLiteral("0")).color);
+        || (IsFloating(layer) && color == styles.Layer(QStringLiteral("0")).color)
+        || (color == 0 && survey.Colours().IsBlackByLayer(styles.LayerName(layer)));
     const quint32 resolved = isByLayer ? styles.Layer(LayerOf(layer)).color : color;
     return resolved == kByBlockColor ? 0 : resolved;
 }

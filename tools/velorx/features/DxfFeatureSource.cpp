@@ -2,6 +2,7 @@
 #include "tools/velorx/features/DxfFeatureSource.h"
 
 #include "tools/velorx/ConversionReport.h"
+#include "tools/velorx/features/DxfFeatureLosses.h"
 #include "tools/velorx/features/DxfFeatureReader.h"
 #include "tools/velorx/formats/DxfContent.h"
 #include "tools/velorx/formats/DxfSurvey.h"
@@ -19,9 +20,14 @@ namespace velorx {
 
 namespace {
 
-// What the first look counts and features keep all the same.
-constexpr EDxfLoss kKept[] = {EDxfLoss::BlockBasePoints, EDxfLoss::LayerColours,
-                              EDxfLoss::TwoVertexClosed};
+// What the first look counts and features keep all the same, or what is lost in a drawing alone.
+constexpr EDxfLoss kKept[] = {
+    EDxfLoss::BlockBasePoints, EDxfLoss::FollowedLines,      EDxfLoss::AttDefPrompts,
+    EDxfLoss::AttDefFlags,     EDxfLoss::TrueBlacks,         EDxfLoss::LayerColours,
+    EDxfLoss::LayerLineTypes,  EDxfLoss::LayerLineWeights,   EDxfLoss::LineTypePatterns,
+    EDxfLoss::TwoVertexClosed, EDxfLoss::HatchPatternScales, EDxfLoss::DrawingUnits,
+    EDxfLoss::HeaderVariables,
+};
 
 bool IsKept(const QString& what)
 {
@@ -54,6 +60,18 @@ void HandOnLosses(const CDxfTally& counts, CFeatureTally& tally)
     }
 }
 
+// What the first look knows in the end alone.
+void HandOnRest(const CDxfSurvey& survey, CFeatureTally& tally)
+{
+    const int lineTypes = survey.LineTypes().WithSymbols();
+    if (lineTypes > 0) {
+        tally.Lose(QLatin1String(losses::kLineTypes), QString(), lineTypes);
+    }
+    survey.Colours().ForMixedLayers([&tally](const QString& layer, qint64 count) {
+        tally.Lose(QLatin1String(LossText(EDxfLoss::ExplicitByLayer)), layer, count);
+    });
+}
+
 // File names keep the bytes that the shell handed over.
 QString NameOf(const QString& path)
 {
@@ -79,6 +97,7 @@ QString CDxfFeatureSource::Read(IFeatureSink& sink, CFeatureTally& tally)
     const bool isWhole = VelorExchange::dxf::Read(path, &reader);
     reader.Finish();
     HandOnLosses(counts, tally);
+    HandOnRest(survey, tally);
     return isWhole ? QString() : QStringLiteral("the drawing ends inside a block");
 }
 

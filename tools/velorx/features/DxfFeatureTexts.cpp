@@ -48,7 +48,7 @@ bool CDxfFeatureReader::GiveTextLine(const char* kind, const CTextDXF& record, d
     STextFeature text;
     FillHead(text, kind, record.layer);
     if (IsFree(record.alignment)) {
-        if (survey.IsPositionTheAnchor()) {
+        if (survey.Texts().IsPositionTheAnchor()) {
             text.align = record.alignment == kRight ? EFeatureAlign::Right : EFeatureAlign::Centre;
             text.vertical =
                 record.alignment == kMiddle ? EFeatureVertical::Middle : EFeatureVertical::Baseline;
@@ -71,7 +71,7 @@ bool CDxfFeatureReader::OnMText(const CMTextDXF& record)
     text.align = kAligns[place71 % kColumns];
     text.vertical = kVerticals[place71 / kColumns];
     text.columnWidth = record.rectWidth > 0 ? record.rectWidth : 0.0;
-    return GiveWords(text, record, PlainOfMText(record.text));
+    return GiveWords(text, record, PlainOfMText(survey.Texts().WithoutSeams(record.text)));
 }
 
 // What the codes tell of the first letter goes for all, before what the style tells.

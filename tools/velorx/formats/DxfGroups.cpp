@@ -4,20 +4,30 @@
 #include <charconv>
 #include <cmath>
 #include <limits>
+#include <system_error>
 
 namespace velorx {
 
 namespace {
 
-constexpr int kNameCode = 2;
-
-double NumberOf(std::string_view text)
+struct SNumber
 {
-    double number = 0.0;
+    double value = 0.0;
+    bool isWhole = false; ///< Whether nothing but the number stands there.
+};
+
+SNumber NumberOf(std::string_view text)
+{
+    SNumber number;
     if (!text.empty() && text.front() == '+') {
         text.remove_prefix(1);
     }
-    std::from_chars(text.data(), text.data() + text.size(), number);
+    const char* end = text.data() + text.size();
+    const auto result = std::from_chars(text.data(), end, number.value);
+    number.isWhole = result.ec == std::errc() && result.ptr == end;
+    if (!std::isfinite(number.value)) {
+        return {};
+    }
     return number;
 }
 
@@ -27,28 +37,33 @@ void CDxfGroups::Clear()
 {
     for (const std::size_t code : touched) {
         groups[code] = SGroup{};
+        if (code < kTexts) {
+            texts[code].clear();
+        }
     }
     touched.clear();
-    name.clear();
 }
 
-void CDxfGroups::Add(int code, std::string_view value)
+double CDxfGroups::Add(int code, std::string_view value)
 {
     if (code < 0 || code >= kCodes) {
-        return;
+        return 0.0;
     }
     const auto index = static_cast<std::size_t>(code);
     SGroup& group = groups[index];
-    if (code == kNameCode && group.count == 0) {
-        name = value;
-    }
+    const SNumber number = NumberOf(value);
     if (group.count == 0) {
         touched.push_back(index);
-        group.first = NumberOf(value);
+        group.first = number.value;
+        if (code < kTexts) {
+            texts[index] = value;
+        }
     } else if (!group.varies) {
-        group.varies = NumberOf(value) != group.first;
+        group.varies = number.value != group.first;
     }
+    group.isZero = group.isZero && number.isWhole && number.value == 0;
     ++group.count;
+    return number.value;
 }
 
 double CDxfGroups::Number(int code, double absent) const

@@ -1,13 +1,17 @@
 // SPDX-License-Identifier: MIT
+// The walk over a drawing, and its entities and blocks.
 #include "tools/velorx/formats/DxfSurvey.h"
 
+#include "tools/velorx/formats/DxfEntityRules.h"
 #include "tools/velorx/formats/DxfTagScan.h"
 
 #include <QFile>
+#include <QStringList>
 #include <QTextCodec>
 
 #include <algorithm>
 #include <cmath>
+#include <cstdlib>
 #include <iterator>
 
 namespace velorx {
@@ -15,16 +19,24 @@ namespace velorx {
 namespace {
 
 constexpr std::size_t kMostStyleTags = 1000;
-constexpr int kUtf8Version = 1021;
+constexpr int kFirstUtf8Version = 1019;
 constexpr int kIbm866Version = 1006;
-constexpr int kExtendedData = 1001;
-constexpr int kByLayer = 256;
-constexpr int kMeshFlags = 16 + 64;
 constexpr double kNear = 1e-9;
 
-// Records that are parts of others, or that the reader knows.
-constexpr std::string_view kParts[] = {"VERTEX", "SEQEND", "ATTRIB", "BLOCK",
-                                       "ENDBLK", "ENDSEC", "SECTION"};
+// Records that are parts of others.
+constexpr std::string_view kParts[] = {"SEQEND", "ENDBLK", "ENDSEC", "SECTION"};
+
+constexpr std::string_view kSections[] = {"HEADER", "CLASSES",  "TABLES",
+                                          "BLOCKS", "ENTITIES", "OBJECTS"};
+
+// Behind these the order of groups counts.
+constexpr std::string_view kOrdered[] = {"LTYPE", "STYLE", "MLINESTYLE"};
+
+template <std::size_t Count>
+bool IsAmong(const std::string_view (&names)[Count], std::string_view name)
+{
+    return std::find(std::begin(names), std::end(names), name) != std::end(names);
+}
 
 std::string Capitals(std::string_view text)
 {
@@ -35,44 +47,15 @@ std::string Capitals(std::string_view text)
     return capitals;
 }
 
-bool IsRead(const std::string& kind)
+// The kind of that name; kDxfKinds for one that the reader does not know.
+std::size_t KindNamed(const std::string& name)
 {
-    for (std::size_t i = 0; i < kDxfKinds; ++i) {
-        if (kind == EntityName(i)) {
-            return true;
-        }
+    std::size_t kind = 0;
+    while (kind < kDxfKinds && name != EntityName(kind)) {
+        ++kind;
     }
-    return false;
+    return kind;
 }
-
-bool IsPart(const std::string& kind)
-{
-    return std::find(std::begin(kParts), std::end(kParts), kind) != std::end(kParts);
-}
-
-bool Differ(double a, double b)
-{
-    return std::fabs(a - b) > kNear;
-}
-
-/// A group, or a pair of them, that is left out wherever it holds more than its default.
-struct SFlatRule
-{
-    const char* kind; ///< Empty for all kinds.
-    int code;
-    double usual;
-    EDxfLoss loss;
-};
-
-constexpr SFlatRule kFlatRules[] = {
-    {"", 48, 1.0, EDxfLoss::LineTypeScales},  {"", 60, 0.0, EDxfLoss::Invisible},
-    {"", 39, 0.0, EDxfLoss::Thicknesses},     {"3DFACE", 70, 0.0, EDxfLoss::FaceEdges},
-    {"MLINE", 70, 1.0, EDxfLoss::MLineSides},
-};
-
-// Kinds whose shape, and not only whose position, depends on the side that their plane is seen from.
-constexpr std::string_view kPlaneKinds[] = {"INSERT", "LWPOLYLINE", "POLYLINE", "TEXT",
-                                            "MTEXT",  "HATCH",      "ELLIPSE"};
 
 } // namespace
 
@@ -87,6 +70,7 @@ bool CDxfSurvey::Read(const QString& path)
         TakeTag(scan.Code(), scan.Value());
     }
     FinishRecord();
+    FinishAll();
     return true;
 }
 
@@ -97,40 +81,46 @@ void CDxfSurvey::TakeTag(int code, std::string_view value)
         BeginRecord(value);
         return;
     }
-    if (Is("SECTION") && code == 2) {
-        section = Capitals(value);
+    if (Is("SECTION") && code == 2 && section.empty()) {
+        BeginSection(value);
     }
     if (section == "HEADER") {
         TakeHeader(code, value);
         return;
     }
-    if ((Is("MLINESTYLE") || Is("LTYPE")) && styleTags.size() < kMostStyleTags) {
-        styleTags.emplace_back(code, value);
+    if (IsAmong(kOrdered, record) && tags.size() < kMostStyleTags) {
+        tags.emplace_back(code, value);
     }
-    groups.Add(code, value);
+    if (Is("MTEXT") && (code == 1 || code == 3)) {
+        texts.TakePiece(code, Decoded(std::string(value)));
+    }
+    const double number = groups.Add(code, value);
+    shapes.Take(code, number);
+    hatchPatterns.Take(code, number);
 }
 
-void CDxfSurvey::TakeHeader(int code, std::string_view value)
+void CDxfSurvey::BeginSection(std::string_view name)
 {
-    constexpr int kVariable = 9;
-    constexpr std::size_t kDigits = 4;
-    if (code == kVariable) {
-        isVersionNext = Capitals(value) == "$ACADVER";
-    } else if (code == 1 && isVersionNext && value.size() >= kDigits) {
-        version = std::atoi(std::string(value.substr(value.size() - kDigits)).c_str());
-        isVersionNext = false;
+    section = Capitals(name);
+    areObjectsAhead = areObjectsAhead || areObjectsPassed;
+    areObjectsPassed = areObjectsPassed || section == "OBJECTS";
+    if (!IsAmong(kSections, section)) {
+        tally.Lose(EDxfLoss::OtherSections);
     }
 }
 
 void CDxfSurvey::BeginRecord(std::string_view kind)
 {
     record = Capitals(kind);
+    shapes.Begin(record);
+    hatchPatterns.Begin();
     if (Is("ENDSEC")) {
         section.clear();
     } else if (Is("BLOCK")) {
-        isInBlock = true;
+        isInBlock = section == "BLOCKS";
     } else if (Is("ENDBLK")) {
         isInBlock = false;
+        block.clear();
     }
 }
 
@@ -138,204 +128,98 @@ void CDxfSurvey::FinishRecord()
 {
     if (section == "ENTITIES" || section == "BLOCKS") {
         FinishEntity();
-    } else if (Is("LAYER")) {
-        JudgeLayer();
-    } else if (Is("STYLE")) {
-        JudgeTextStyle();
-    } else if (Is("LTYPE")) {
-        AddLineType();
-    } else if (Is("MLINESTYLE")) {
-        AddMLineStyle();
+    } else if (section == "TABLES") {
+        FinishTableRecord();
+    } else if (section == "OBJECTS") {
+        FinishObject();
     }
-    styleTags.clear();
+    tags.clear();
     groups.Clear();
 }
 
+// An attribute and a vertex belong to the entity before them.
 void CDxfSurvey::FinishEntity()
 {
+    const bool isLeftOut = groups.Integer(67) == 1 && !Is("ATTDEF");
     if (Is("BLOCK")) {
         AddBlock();
+    } else if (Is("VERTEX")) {
+        shapes.FinishVertex(groups, tally);
     } else if (Is("ATTRIB")) {
-        JudgeText(74);
-    } else if (record.empty() || IsPart(record)) {
-        return;
-    } else if (groups.Integer(67) == 1) {
-        tally.Lose(EDxfLoss::PaperSpace);
-    } else if (!IsRead(record)) {
-        tally.Unread(record);
-    } else {
-        JudgeEntity();
+        if (hasReadInsert) {
+            JudgeEntity();
+        }
+    } else if (!record.empty() && !IsAmong(kParts, record)) {
+        const std::size_t kind = KindNamed(record);
+        hasReadInsert = kind == kInsert && !isLeftOut;
+        if (isLeftOut) {
+            tally.Lose(EDxfLoss::PaperSpace, Layer());
+        } else if (kind == kDxfKinds) {
+            tally.Unread(record, Layer());
+        } else if (kind == kAttDef && !isInBlock) {
+            tally.Lose(EDxfLoss::AttDefs, Layer());
+        } else {
+            tally.Expect(static_cast<EDxfKind>(kind));
+            JudgeEntity();
+        }
     }
 }
 
 void CDxfSurvey::JudgeEntity()
 {
-    for (const SFlatRule& rule : kFlatRules) {
-        const bool isMeant = *rule.kind == '\0' || Is(rule.kind);
-        if (isMeant && Differ(groups.Number(rule.code, rule.usual), rule.usual)) {
-            tally.Lose(rule.loss);
-        }
-    }
-    if (groups.Number(230, 1.0) < 0
-        && std::find(std::begin(kPlaneKinds), std::end(kPlaneKinds), record)
-            != std::end(kPlaneKinds))
-    {
-        tally.Lose(EDxfLoss::MirroredPlanes);
-    }
-    if (groups.Integer(62) == kByLayer && !groups.Has(420)) {
-        tally.Lose(EDxfLoss::ExplicitByLayer);
-    }
-    if (groups.Has(420) && !groups.Has(62)) {
-        tally.Lose(EDxfLoss::LoneTrueColours);
-    }
-    if (groups.Has(kExtendedData)) {
-        tally.Lose(EDxfLoss::ExtendedData);
-    }
-    JudgeByKind();
-}
-
-void CDxfSurvey::JudgeByKind()
-{
-    if (Is("TEXT")) {
-        JudgeText(73);
-    } else if (Is("MTEXT")) {
-        JudgeMText();
+    const SDxfSurveyEntity entity = {record, groups, Layer(), block, isInBlock};
+    velorx::JudgeEntity(entity, tally);
+    shapes.Finish(entity, tally);
+    colours.Take(entity);
+    texts.Take(entity);
+    followers += FollowsLinesOfInsert(entity) ? 1 : 0;
+    if (Is("HATCH")) {
+        hatchPatterns.Finish(entity, Decoded(groups.Text(2)), tally);
     } else if (Is("MLINE")) {
         JudgeMLine();
-    } else if (Is("INSERT") && (groups.Integer(70) > 1 || groups.Integer(71) > 1)) {
-        tally.Lose(EDxfLoss::InsertArrays);
-    } else if (Is("SPLINE") && groups.Varies(41)) {
-        tally.Lose(EDxfLoss::SplineWeights);
-    } else if (Is("POLYLINE") && (groups.Integer(70) & kMeshFlags) != 0) {
-        tally.Lose(EDxfLoss::Meshes);
-    } else if (Is("LWPOLYLINE")) {
-        if ((groups.Integer(70) & 1) != 0 && groups.Integer(90) == 2) {
-            tally.Lose(EDxfLoss::TwoVertexClosed);
-        }
-        if (!Differ(groups.Number(43), 0)
-            && (groups.Varies(40) || groups.Varies(41)
-                || Differ(groups.Number(40), groups.Number(41))))
-        {
-            tally.Lose(EDxfLoss::ChangingWidths);
-        }
-    } else if (Is("IMAGE")) {
-        tally.Lose(EDxfLoss::ImageColours);
-        if (isInBlock) {
-            tally.Lose(EDxfLoss::ImagesOfBlocks);
-        }
-    } else if (Is("ATTDEF") && !isInBlock) {
-        tally.Lose(EDxfLoss::AttDefs);
-    }
-}
-
-// A text that is not set by its left end has that other point in groups 11 and 21.
-void CDxfSurvey::JudgeText(int verticalCode)
-{
-    if (groups.Integer(verticalCode) != 0) {
-        tally.Lose(EDxfLoss::TextVerticals);
-    }
-    if (groups.Integer(72) == 0 || !groups.Has(11)) {
-        return;
-    }
-    const bool isSame = !Differ(groups.Number(10), groups.Number(11))
-        && !Differ(groups.Number(20), groups.Number(21));
-    ++(isSame ? anchorsAtPosition : anchorsElsewhere);
-}
-
-void CDxfSurvey::JudgeMText()
-{
-    if (groups.Count(3) > 1) {
-        tally.Lose(EDxfLoss::TextSeams);
-    }
-    if (!groups.Has(11) && Differ(groups.Number(50), 0)) {
-        tally.Lose(EDxfLoss::TextRotations);
+    } else if (Is("ATTDEF")) {
+        attDefs.Add(
+            entity, [this](const std::string& bytes) { return Decoded(bytes); }, tally);
     }
 }
 
 void CDxfSurvey::JudgeMLine()
 {
-    const QString style = Decoded(groups.Name()).toCaseFolded();
+    const QString style = Decoded(groups.Text(2)).toCaseFolded();
     const double scale = groups.Number(40, 1.0);
     const auto known = mlineScales.constFind(style);
     if (known == mlineScales.constEnd()) {
         mlineScales.insert(style, scale);
-    } else if (Differ(*known, scale)) {
-        tally.Lose(EDxfLoss::MLineScales);
+    } else if (std::fabs(*known - scale) > kNear) {
+        tally.Lose(EDxfLoss::MLineScales, Layer());
     }
-}
-
-void CDxfSurvey::JudgeLayer()
-{
-    constexpr int kWhite = 7;
-    if (std::abs(groups.Integer(62, kWhite)) != kWhite || groups.Has(420)) {
-        tally.Lose(EDxfLoss::LayerColours);
-    }
-}
-
-void CDxfSurvey::JudgeTextStyle()
-{
-    if (Differ(groups.Number(40), 0) || Differ(groups.Number(41, 1.0), 1.0)
-        || Differ(groups.Number(50), 0) || groups.Has(kExtendedData))
-    {
-        tally.Lose(EDxfLoss::TextStyleValues);
-    }
-}
-
-// What counts stands behind the marker of the record's own kind, and ahead of extended data.
-void CDxfSurvey::AddMLineStyle()
-{
-    constexpr int kName = 2;
-    constexpr int kMarker = 100;
-    constexpr int kFirstForeign = 300;
-    CMLineStyleGroups style;
-    QString name;
-    bool isOwn = false;
-    for (const auto& [code, value] : styleTags) {
-        isOwn = isOwn || code == kMarker;
-        if (!isOwn || code == kMarker || code >= kFirstForeign || code < 0) {
-            continue;
-        }
-        if (code == kName) {
-            name = Decoded(value);
-        } else {
-            style.emplace_back(code, Decoded(value));
-        }
-    }
-    if (!name.isEmpty()) {
-        mlineStyles.insert(name.toCaseFolded(), style);
-    }
-}
-
-void CDxfSurvey::AddLineType()
-{
-    constexpr int kDescription = 3;
-    constexpr int kDash = 49;
-    VelorExchange::dxf::CLineStyleDXF style;
-    style.name = Decoded(groups.Name());
-    for (const auto& [code, value] : styleTags) {
-        if (code == kDescription) {
-            style.description = Decoded(value);
-        } else if (code == kDash) {
-            style.pattern.emplace_back(Decoded(value).toDouble());
-        }
-    }
-    if (groups.Number(74) != 0 || groups.Varies(74)) {
-        tally.Lose(EDxfLoss::LineTypePatterns);
-    }
-    lineTypes.insert(style.name.toCaseFolded(), style);
 }
 
 void CDxfSurvey::AddBlock()
 {
     constexpr int kOutside = 4;
+    const QString name = Decoded(groups.Text(2));
+    const QString key = name.toCaseFolded();
     const VelorExchange::CPoint3D point{groups.Number(10), groups.Number(20), groups.Number(30)};
-    if (Differ(point.x, 0) || Differ(point.y, 0) || Differ(point.z, 0)) {
+    if (std::fabs(point.x) > kNear || std::fabs(point.y) > kNear || std::fabs(point.z) > kNear) {
         tally.Lose(EDxfLoss::BlockBasePoints);
-        basePoints.insert(Decoded(groups.Name()).toCaseFolded(), point);
+        basePoints.insert(key, point);
     }
     if ((groups.Integer(70) & kOutside) != 0) {
-        tally.Lose(EDxfLoss::OutsideBlocks);
+        const QString file = Decoded(groups.Text(1));
+        tally.Lose(EDxfLoss::OutsideBlocks, QString(), file.isEmpty() ? 1 : 0);
+        outsideFiles.insert(key, file);
     }
+    block = name;
+    attDefs.BeginBlock(name);
+}
+
+void CDxfSurvey::FinishAll()
+{
+    tally.Lose(EDxfLoss::LineTypePatterns, QString(),
+               lineTypes.NameStyles(styleHandles, shapeFiles));
+    tally.Lose(EDxfLoss::FollowedLines, QStringLiteral("0"), hasLinesOfLayers ? followers : 0);
+    texts.AddLosses(tally);
 }
 
 const CMLineStyleGroups* CDxfSurvey::MLineStyle(const QString& name) const
@@ -344,10 +228,15 @@ const CMLineStyleGroups* CDxfSurvey::MLineStyle(const QString& name) const
     return found != mlineStyles.constEnd() ? &*found : nullptr;
 }
 
-const VelorExchange::dxf::CLineStyleDXF* CDxfSurvey::LineType(const QString& name) const
+double CDxfSurvey::MLineScale(const QString& name) const
 {
-    const auto found = lineTypes.constFind(name.toCaseFolded());
-    return found != lineTypes.constEnd() ? &*found : nullptr;
+    return mlineScales.value(name.toCaseFolded(), 1.0);
+}
+
+const VelorExchange::dxf::CTextStyleDXF* CDxfSurvey::TextStyle(const QString& name) const
+{
+    const auto found = textStyles.constFind(name.toCaseFolded());
+    return found != textStyles.constEnd() ? &*found : nullptr;
 }
 
 VelorExchange::CPoint3D CDxfSurvey::BasePoint(const QString& name) const
@@ -355,20 +244,37 @@ VelorExchange::CPoint3D CDxfSurvey::BasePoint(const QString& name) const
     return basePoints.value(name.toCaseFolded());
 }
 
-double CDxfSurvey::MLineScale(const QString& name) const
+QString CDxfSurvey::OutsideFile(const QString& name) const
 {
-    return mlineScales.value(name.toCaseFolded(), 1.0);
+    return outsideFiles.value(name.toCaseFolded());
 }
 
+// The library's reader takes blanks of all kinds off a value.
 QString CDxfSurvey::Decoded(const std::string& bytes) const
 {
-    if (version >= kUtf8Version) {
-        return QString::fromUtf8(bytes.c_str());
+    if (version >= kFirstUtf8Version) {
+        return QString::fromUtf8(bytes.c_str()).trimmed();
     }
     if (version == kIbm866Version) {
-        return QTextCodec::codecForName("IBM866")->toUnicode(bytes.c_str());
+        return QTextCodec::codecForName("IBM866")->toUnicode(bytes.c_str()).trimmed();
     }
-    return QString::fromLocal8Bit(bytes.c_str());
+    return QString::fromLocal8Bit(bytes.c_str()).trimmed();
+}
+
+QString CDxfSurvey::Layer() const
+{
+    const QString layer = Decoded(groups.Text(8));
+    return layer.isEmpty() ? QStringLiteral("0") : layer;
+}
+
+CDxfGroupList CDxfSurvey::DecodedTags() const
+{
+    CDxfGroupList decoded;
+    decoded.reserve(tags.size());
+    for (const auto& [code, value] : tags) {
+        decoded.emplace_back(code, Decoded(value));
+    }
+    return decoded;
 }
 
 } // namespace velorx

@@ -7,107 +7,99 @@ namespace velorx {
 
 namespace {
 
-constexpr std::size_t kMostKinds = 1000;
-constexpr char kOtherKinds[] = "others";
+constexpr std::size_t kMostUnread = 1000;
+constexpr char kOthers[] = "others";
 
-constexpr const char* kLossTexts[] = {
-    "elements of paper space, left out",
-    "elements of layout blocks, left out",
-    "images of blocks, standing in the drawing once and in the block's coordinates",
-    "attribute definitions, left out",
-    "inserts in rows and columns, written once each",
-    "elements of blocks without a name, left out",
-    "blocks defined once more under the same name, left out",
-    "blocks that are inserted but not defined, written empty",
-    "blocks that refer to other files, written without the reference",
-    "base points of blocks, made up for in the points of their inserts",
-    "elements of blocks moved to layer 0 of their block",
-    "elements of blocks on hidden layers, which show in the result",
-    "elements marked as invisible, which show in the result",
-    "elements drawn on a plane seen from behind, mirrored in part",
-    "elements with the colour \"by layer\" written out, black in the result",
-    "elements with a true colour but no colour number, in the layer's colour",
-    "layers with a colour, which their elements carry instead",
-    "layers with a line type, which their elements carry instead",
-    "line types with letters or shapes, written with their dashes alone",
-    "elements with a line type scale, at scale 1 in the result",
-    "line types of points, faces and polylines in space, dropped",
-    "line weights by block, dropped",
-    "elements with a thickness, flat in the result",
-    "heights of lines without ends and of hatches, dropped",
-    "circles, written as whole arcs",
-    "ellipses, written as splines of third degree",
-    "rays, written as lines without ends",
-    "solids, written as hatches",
-    "polylines of the old form in the plan, written in the new one",
-    "polylines in the plan whose heights change, written as polylines in space",
-    "meshes, written as polylines through their vertices",
-    "closed polylines of two vertices, open in the result",
-    "polylines whose width changes, in one width",
-    "splines of another degree than the third, written in the third",
-    "splines of fit points alone, written as curves through them",
-    "splines with weights, which are dropped",
-    "faces with hidden edges, which show in the result",
-    "colours of multilines, dropped",
-    "multilines whose scale differs from the first of their style, at that scale",
-    "multilines drawn to one side of their axis, drawn on both",
-    "multilines whose style is not in the drawing, drawn as two lines",
-    "hatches with a pattern, filled with plain lines under its name",
-    "curved edges of hatches, written in chords",
-    "boundaries of hatches that enclose nothing, left out",
-    "inserts with a line type, dropped",
-    "inserts with a factor along Z, dropped",
-    "texts set by their middle or right end, set by the left one at the same place",
-    "texts set by their top, middle or bottom, set by their base line",
-    "texts turned by an angle that is not read, level in the result",
-    "long texts with a semicolon between their pieces",
-    "texts with runs of blanks, which become one",
-    "texts of more than 255 letters, cut",
-    "texts with letters that have no place in the file, \"?\" in the result",
-    "names changed, so that programs take them",
-    "text styles with a height, width, slant or font of the system, dropped",
-    "text styles whose font gives way to the drawing's own",
-    "images, written without brightness, contrast and size in pixels",
-    "elements with extended data, dropped",
-    "texts without a letter, left out",
-    "elements refused: nothing to draw, or a number that is none",
-};
+// "ARC", or "LWPOLYLINE 1, POLYLINE 2" for a kind that becomes several.
+QString WrittenAs(const std::map<std::string, qint64>& written)
+{
+    QStringList names;
+    for (const auto& [name, count] : written) {
+        const QString as = QString::fromStdString(name);
+        names.append(written.size() == 1 ? as : as + QLatin1Char(' ') + QString::number(count));
+    }
+    return names.join(QStringLiteral(", "));
+}
 
-static_assert(sizeof kLossTexts / sizeof *kLossTexts == static_cast<std::size_t>(EDxfLoss::kCount));
+qint64 Sum(const std::map<std::string, qint64>& written)
+{
+    qint64 sum = 0;
+    for (const auto& entry : written) {
+        sum += entry.second;
+    }
+    return sum;
+}
 
 } // namespace
 
-const char* LossText(EDxfLoss loss)
+void CDxfTally::SLoss::Add(const QString& layer, qint64 more)
 {
-    return kLossTexts[static_cast<std::size_t>(loss)];
+    count += more;
+    if (!layer.isEmpty()) {
+        layers[layer] += more;
+    }
 }
 
-void CDxfTally::Unread(const std::string& kind)
+void CDxfTally::Lose(EDxfLoss loss, const QString& layer, qint64 count)
 {
-    const bool hasPlace = unread.size() < kMostKinds || unread.count(kind) != 0;
-    ++unread[hasPlace ? kind : kOtherKinds];
+    if (count > 0) {
+        losses[static_cast<std::size_t>(loss)].Add(layer, count);
+    }
+}
+
+void CDxfTally::Unread(const std::string& what, const QString& layer)
+{
+    const bool hasPlace = unread.size() < kMostUnread || unread.count(what) != 0;
+    unread[hasPlace ? what : kOthers].Add(layer, 1);
+}
+
+void CDxfTally::AddTo(CConversionReport& report, const QString& what, const SLoss& loss)
+{
+    report.losses.push_back({what, loss.count, {loss.layers.begin(), loss.layers.end()}});
+}
+
+// An arc whose angles are equal comes as a circle, so that the two are one here.
+qint64 CDxfTally::Missing(std::size_t kind) const
+{
+    const auto missing = [this](std::size_t k) { return expected[k] - inDrawing[k] - inBlocks[k]; };
+    if (!hasEnded || kind == kCircle) {
+        return 0;
+    }
+    return missing(kind) + (kind == kArc ? missing(kCircle) : 0);
+}
+
+void CDxfTally::AddMissing(CConversionReport& report) const
+{
+    for (std::size_t i = 0; i < kDxfKinds; ++i) {
+        if (Missing(i) > 0 && i != kImage) {
+            report.losses.push_back(
+                {QLatin1String(EntityName(i)) + QStringLiteral(", lost in reading"),
+                 Missing(i),
+                 {}});
+        }
+    }
 }
 
 void CDxfTally::FillReport(CConversionReport& report) const
 {
     for (std::size_t i = 0; i < kDxfKinds; ++i) {
-        if (inDrawing[i] + inBlocks[i] == 0) {
-            continue;
+        if (inDrawing[i] + inBlocks[i] != 0) {
+            report.kinds.push_back({QLatin1String(EntityName(i)), WrittenAs(written[i]),
+                                    inDrawing[i], inBlocks[i], Sum(written[i])});
         }
-        QStringList names;
-        for (const auto& entry : writtenAs[i]) {
-            names.append(QString::fromStdString(entry.first));
-        }
-        report.kinds.push_back({QLatin1String(EntityName(i)), names.join(QStringLiteral(", ")),
-                                inDrawing[i], inBlocks[i], written[i]});
     }
-    for (const auto& [kind, count] : unread) {
-        report.losses.push_back(
-            {QString::fromUtf8(kind.c_str()) + QStringLiteral(", not read: left out"), count, {}});
+    for (const auto& [what, loss] : unread) {
+        AddTo(report, QString::fromUtf8(what.c_str()) + QStringLiteral(", not read: left out"),
+              loss);
     }
+    AddMissing(report);
     for (std::size_t i = 0; i < losses.size(); ++i) {
-        if (losses[i] != 0) {
-            report.losses.push_back({QLatin1String(kLossTexts[i]), losses[i], {}});
+        SLoss loss = losses[i];
+        if (i == static_cast<std::size_t>(EDxfLoss::UndefinedImages)) {
+            loss.count = Missing(kImage); // the reader delivers an image with its file
+        }
+        if (loss.count > 0) {
+            AddTo(report, QLatin1String(LossText(static_cast<EDxfLoss>(i))), loss);
         }
     }
 }

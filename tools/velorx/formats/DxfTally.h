@@ -3,6 +3,9 @@
 
 #include "tools/velorx/ConversionReport.h"
 #include "tools/velorx/formats/DxfKinds.h"
+#include "tools/velorx/formats/DxfLosses.h"
+
+#include <QString>
 
 #include <array>
 #include <cstddef>
@@ -11,101 +14,51 @@
 
 namespace velorx {
 
-/// What a drawing can lose on its way through the reader and the writer, in the order of the report.
-enum class EDxfLoss : std::size_t {
-    PaperSpace,
-    LayoutBlocks,
-    ImagesOfBlocks,
-    AttDefs,
-    InsertArrays,
-    NamelessBlocks,
-    RepeatedBlocks,
-    UndefinedBlocks,
-    OutsideBlocks,
-    BlockBasePoints,
-    BlockLayers,
-    HiddenInBlocks,
-    Invisible,
-    MirroredPlanes,
-    ExplicitByLayer,
-    LoneTrueColours,
-    LayerColours,
-    LayerLineTypes,
-    LineTypePatterns,
-    LineTypeScales,
-    LineTypesDropped,
-    BlockLineWeights,
-    Thicknesses,
-    Heights,
-    Arcs,
-    Ellipses,
-    Rays,
-    Solids,
-    Polylines2D,
-    PolylineHeights,
-    Meshes,
-    TwoVertexClosed,
-    ChangingWidths,
-    SplineDegrees,
-    SplineFits,
-    SplineWeights,
-    FaceEdges,
-    MLineColours,
-    MLineScales,
-    MLineSides,
-    MLineStyles,
-    HatchPatterns,
-    HatchCurves,
-    HatchBoundaries,
-    InsertLineTypes,
-    InsertScaleZ,
-    TextAlignments,
-    TextVerticals,
-    TextRotations,
-    TextSeams,
-    TextBlanks,
-    LongTexts,
-    Letters,
-    Names,
-    TextStyleValues,
-    TextStyleFonts,
-    ImageColours,
-    ExtendedData,
-    EmptyTexts,
-    Refused,
-    kCount
-};
-
-/// The loss in words that follow its count.
-const char* LossText(EDxfLoss loss);
-
-/// Counts of one conversion.
+/// Counts of one conversion: each entity that stands in the drawing is written or stands among the losses.
+///
+/// Memory grows with the kinds of entities, and with the layers that lost something.
 class CDxfTally
 {
 public:
+    /// An entity stands in the drawing and is of a kind that the reader delivers.
+    void Expect(EDxfKind kind) { ++expected[kind]; }
+
+    /// All entities that the reader delivers were told to `Read`: what else was expected is lost.
+    void EndReading() { hasEnded = true; }
+
     void Read(EDxfKind kind, bool isInBlock) { ++(isInBlock ? inBlocks : inDrawing)[kind]; }
-    void Wrote(EDxfKind kind, const char* as)
-    {
-        ++written[kind];
-        writtenAs[kind][as] += 1;
-    }
-    void Lose(EDxfLoss loss, qint64 count = 1) { losses[static_cast<std::size_t>(loss)] += count; }
+    void Wrote(EDxfKind kind, const char* as) { ++written[kind][as]; }
 
-    /// An entity whose kind the reader does not know. Beyond a thousand kinds they count together.
-    void Unread(const std::string& kind);
+    /// Something was lost or changed; `layer` is that of the element, empty where it is no element's.
+    void Lose(EDxfLoss loss, const QString& layer = QString(), qint64 count = 1);
 
-    qint64 Losses(EDxfLoss loss) const { return losses[static_cast<std::size_t>(loss)]; }
+    /// Something that the reader does not know: a kind of entity, or a group of one. Beyond a thousand of
+    /// them they count together.
+    void Unread(const std::string& what, const QString& layer);
 
     /// Puts what was met into the report.
     void FillReport(CConversionReport& report) const;
 
 private:
+    struct SLoss
+    {
+        qint64 count = 0;
+        std::map<QString, qint64> layers;
+
+        void Add(const QString& layer, qint64 more);
+    };
+
+    static void AddTo(CConversionReport& report, const QString& what, const SLoss& loss);
+    void AddMissing(CConversionReport& report) const;
+    qint64 Missing(std::size_t kind) const;
+
+    bool hasEnded = false;
+    CEntityCounts expected{};
     CEntityCounts inDrawing{};
     CEntityCounts inBlocks{};
-    CEntityCounts written{};
-    std::array<std::map<std::string, qint64>, kDxfKinds> writtenAs;
-    std::array<qint64, static_cast<std::size_t>(EDxfLoss::kCount)> losses{};
-    std::map<std::string, qint64> unread;
+    std::array<std::map<std::string, qint64>, kDxfKinds> written;
+    std::array<SLoss, static_cast<std::size_t>(EDxfLoss::kCount)> losses;
+    std::map<std::string, SLoss> unread;
 };
 
 } // namespace velorx
