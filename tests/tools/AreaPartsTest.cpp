@@ -59,26 +59,6 @@ TEST(AreaParts, OrderOfRingsDoesNotMatter)
               "2(1) 3(0)");
 }
 
-TEST(AreaParts, HoleMayTouchItsOutline)
-{
-    EXPECT_EQ(Parts({Square(0, 0, 9), {{0, 4, 0}, {9, 4, 0}, {5, 6, 0}}}), "0(1)");
-    EXPECT_EQ(
-        Parts({{{0, 0, 0}, {9, 0, 0}, {9, 9, 0}, {0, 9, 0}}, {{0, 0, 0}, {9, 0, 0}, {9, 9, 0}}}),
-        "0(1)")
-        << "all vertices on the outline";
-}
-
-TEST(AreaParts, RingsThatTouchFromOutsideAreOutlines)
-{
-    EXPECT_EQ(Parts({Square(0, 0, 9), Square(9, 0, 9)}), "0 1");
-    EXPECT_EQ(Parts({Square(0, 0, 9), Square(0, 0, 9)}), "0 1") << "the same ring twice";
-}
-
-TEST(AreaParts, RingInTheBoxButNotInTheRingIsAnOutline)
-{
-    EXPECT_EQ(Parts({{{0, 0, 0}, {9, 0, 0}, {0, 9, 0}}, Square(7, 7, 1)}), "0 1");
-}
-
 TEST(AreaParts, RingsThatCrossLoseNothing)
 {
     const CFeatureLine upright = {{0, 5, 0}, {5, 0, 0}, {10, 5, 0}, {5, 10, 0}};
