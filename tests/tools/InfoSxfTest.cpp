@@ -168,6 +168,17 @@ TEST_F(InfoSxf, TellsATextMapToPrograms)
               R"("values_of_other_semantics":0,"vertices":{"AddSquare":5,"AddText":1}})");
 }
 
+TEST_F(InfoSxf, TellsLayersWithoutTheZeroBehindThem)
+{
+    SxfBuilder::CRecord line;
+    line.flags = SxfBuilder::kLine | SxfBuilder::kDouble | SxfBuilder::kSemantics;
+    line.vertices = 2;
+    line.metric = SxfBuilder::F64s({1, 2, 30.5, -4});
+    line.semantics = SxfBuilder::Semantic(0x802A, 126, 2, QByteArray("a\0\0", 3));
+    EXPECT_EQ(Json(Write(SxfBuilder::File(line))).value("layers").toObject().keys(),
+              QStringList("a"));
+}
+
 // ---- Forms and names --------------------------------------------------------------------------
 
 TEST_F(InfoSxf, TellsTheFormByContentWhateverTheName)

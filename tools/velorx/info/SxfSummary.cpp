@@ -17,6 +17,15 @@ void AddVertices(const CAbstractVertexHolder& holder, CExtents& extents)
     }
 }
 
+// The library's writer counts a zero behind the name.
+QString SxfLayerName(QString layer)
+{
+    while (layer.endsWith(QChar(QChar::Null))) {
+        layer.chop(1);
+    }
+    return layer;
+}
+
 } // namespace
 
 QString CSxfSummary::Read(const QString& path, VelorExchange::dxf::IDXFProgress* bar)
@@ -74,7 +83,7 @@ void CSxfSummary::Count(EKind kind, const CBaseObject& object)
         holder->Is2D() ? AddVertices<CVertexHolder2D>(*holder, extents)
                        : AddVertices<CVertexHolder3D>(*holder, extents);
     }
-    layers.Add(object.layer);
+    layers.Add(SxfLayerName(object.layer));
     for (const PnrSemantic& semantic : object.semantics) {
         semantics.Add(semantic.code);
         semanticTypes.Add(semantic.dataType);
