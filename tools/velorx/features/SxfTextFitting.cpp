@@ -92,7 +92,7 @@ void CSxfFitting::FitParts(CTextObject& text)
 // The writer drops the last line break and every bracket.
 void CSxfFitting::FitPartsInBinary(CTextObject& text)
 {
-    if (!text.extraTexts.empty()) {
+    if (!text.extraTexts.empty() && !text.hasOwnImage) { // with a drawing, parts are lines
         tally.Lose(QStringLiteral("texts of several parts became texts of several lines"),
                    text.layer);
     }
