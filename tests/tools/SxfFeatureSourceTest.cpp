@@ -127,6 +127,39 @@ TEST_F(SxfFeatureSource, SubContoursOfAnAreaAreHoles)
     EXPECT_TRUE(recorder.areas[1].stroke.isVisible);
 }
 
+TEST_F(SxfFeatureSource, LineAroundTheAreaAheadOfItIsItsOutline)
+{
+    const QByteArray rings = "4\n0 0\n0 9\n9 9\n0 0\n4\n1 2\n1 3\n2 3\n1 2\n";
+    const QByteArray area =
+        ".OBJ 0 SQR\n.SEG a\n.MET 1\n" + rings + ".IMG 1\n_SQUARE 1\nCOLOR -1\n";
+    const QByteArray line =
+        ".OBJ 0 LIN\n.SEG a\n.MET 1\n" + rings + ".IMG 1\n_LINE 2\nCOLOR 5\nTHICK 500\n";
+    ReadText(area + line + line);
+    ASSERT_EQ(recorder.areas.size(), 1U);
+    EXPECT_EQ(recorder.areas[0].fill.kind, EFeatureFill::None);
+    EXPECT_TRUE(recorder.areas[0].stroke.isVisible);
+    EXPECT_EQ(recorder.areas[0].stroke.color, 5U);
+    EXPECT_EQ(recorder.areas[0].stroke.width, 0.5);
+    EXPECT_EQ(recorder.lines.size(), 2U) << "a second one is a line of two contours";
+    EXPECT_EQ(Kinds(),
+              "Area 1 as area 1\nLine, outline of an area 1 as area 1\nLine 1 as line 1\n"
+              "Line, further contour 1 as line 1\n");
+}
+
+TEST_F(SxfFeatureSource, OtherLinesBehindAnAreaAreLines)
+{
+    const QByteArray rings = "4\n0 0\n0 9\n9 9\n0 0\n";
+    const QByteArray area = ".OBJ 0 SQR\n.SEG a\n" + rings + ".IMG 1\n_SQUARE 1\nCOLOR -1\n";
+    const QByteArray image = ".IMG 1\n_LINE 2\nCOLOR 5\nTHICK 500\n";
+    ReadText(area + ".OBJ 0 LIN\n.SEG b\n" + rings + image // another layer
+             + area + ".OBJ 7 LIN\n" + rings // with a code
+             + area + ".OBJ 0 LIN\n.SEG a\n" + rings + ".SEM 1\n9 x\n" + image // attributes
+             + area + ".OBJ 0 LIN\n.SEG a\n4\n0 0\n0 8\n9 9\n0 0\n" + image + area);
+    EXPECT_EQ(recorder.areas.size(), 5U);
+    EXPECT_EQ(recorder.lines.size(), 4U);
+    EXPECT_FALSE(recorder.areas[0].stroke.isVisible);
+}
+
 TEST_F(SxfFeatureSource, VectorIsAPointWithADirection)
 {
     ReadText(".OBJ 7 VEC\n2\n1 20\n2 21\n.OBJ 0 DOT\n1\n1 20\n");

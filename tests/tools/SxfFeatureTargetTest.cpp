@@ -145,24 +145,40 @@ TEST_F(SxfFeatureTarget, OutlinesBesideEachOtherAreAreasOfTheirOwn)
               "1 further outlines of areas became areas of their own\n");
 }
 
-TEST_F(SxfFeatureTarget, EveryAreaIsFilledAndLosesItsOutline)
+TEST_F(SxfFeatureTarget, OutlineFollowsItsAreaAsALine)
 {
     SAreaFeature area = Area();
+    area.rings.push_back({{6, 1, 0}, {7, 1, 0}, {7, 2, 0}});
     area.fill.color = 1;
     area.stroke = SFeatureStroke();
     area.stroke.color = 2;
-    target->Take(area);
-    area.fill.kind = EFeatureFill::Pattern;
-    target->Take(area);
+    area.stroke.width = 0.5;
+    Put(area, "9", QStringLiteral("x"));
+    EXPECT_STREQ(target->Take(area), "Area");
+    const std::string rings = " | (0 0) (0 9) (5 9) (0 0) | (1 6) (1 7) (2 7) (1 6)";
+    EXPECT_EQ(Finish(),
+              "area 0 SYSTEM color 1" + rings + " ; 9:126=x\nline 0 SYSTEM color 2 thickness 500"
+                  + rings + "\n");
+    EXPECT_EQ(Losses(Report()), "1 outlines of areas became lines behind them\n");
+}
+
+TEST_F(SxfFeatureTarget, AreaWithoutAFillHasNoColour)
+{
+    SAreaFeature area = Area();
     area.fill.kind = EFeatureFill::None;
     target->Take(area);
-    const std::string rings = " | (0 0) (0 9) (5 9) (0 0)\n";
-    EXPECT_EQ(Finish(),
-              "area 0 SYSTEM color 1" + rings + "area 0 SYSTEM color 1" + rings
-                  + "area 0 SYSTEM color 2" + rings);
-    EXPECT_EQ(Losses(Report()),
-              "1 outlines of filled areas\n1 patterns of areas became solid fills\n"
-              "1 areas without a fill are filled with the colour of their outline\n");
+    EXPECT_EQ(Finish(), "area 0 SYSTEM color -1 | (0 0) (0 9) (5 9) (0 0)\n");
+    EXPECT_EQ(Losses(Report()), "");
+}
+
+TEST_F(SxfFeatureTarget, PatternsBecomeSolidFills)
+{
+    SAreaFeature area = Area();
+    area.fill.kind = EFeatureFill::Pattern;
+    area.fill.color = 6;
+    target->Take(area);
+    EXPECT_EQ(Finish(), "area 0 SYSTEM color 6 | (0 0) (0 9) (5 9) (0 0)\n");
+    EXPECT_EQ(Losses(Report()), "1 patterns of areas became solid fills\n");
 }
 
 TEST_F(SxfFeatureTarget, PointHasARingOfItsSize)

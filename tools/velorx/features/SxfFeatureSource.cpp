@@ -35,7 +35,9 @@ QString CSxfFeatureSource::Read(IFeatureSink& sink, CFeatureTally& tally)
     head.scale = static_cast<int>(std::clamp(header.scale, qint64{0}, kLargest));
     sink.TakeHead(head);
     CSxfFeatures features(sink, tally, head.scale > 0 ? head.scale : kCommonScale);
-    return ReadSxf(path, header, options.progress, features);
+    QString problem = ReadSxf(path, header, options.progress, features);
+    features.Finish();
+    return problem;
 }
 
 } // namespace velorx

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "tools/velorx/features/SxfFeatureTarget.h"
 
-#include "tools/velorx/features/AreaParts.h"
 #include "tools/velorx/features/FeatureTally.h"
 #include "tools/velorx/features/SxfAlign.h"
 #include "tools/velorx/features/SxfTextPlace.h"
+#include "tools/velorx/formats/SxfCodes.h"
 
 #include <QFileInfo>
 
@@ -51,6 +51,14 @@ std::unique_ptr<CAbstractVertexHolder> Contour(const CFeatureLine& points, bool 
     return contour;
 }
 
+void AddContours(const SAreaFeature& area, const SAreaPart& part, CBaseObject& object)
+{
+    object.holders.push_back(Contour(*part.outline, area.is3D, true));
+    for (const CFeatureLine* hole : part.holes) {
+        object.holders.push_back(Contour(*hole, area.is3D, true));
+    }
+}
+
 } // namespace
 
 CSxfFeatureTarget::CSxfFeatureTarget(const STargetOptions& targetOptions, CFeatureTally& counts,
@@ -90,11 +98,18 @@ bool CSxfFeatureTarget::IsDrawn(const SFeature& feature, const CBaseObject& obje
     return false;
 }
 
-void CSxfFeatureTarget::ListStroke(const SFeatureStroke& stroke, const QString& layer)
+std::unique_ptr<PnrLineImage> CSxfFeatureTarget::Drawing(const SFeatureStroke& stroke,
+                                                         const QString& layer)
 {
     if (stroke.lineType != nullptr && !stroke.lineType->dashes.empty()) {
         tally.Lose(QStringLiteral("dashed lines became solid"), layer);
     }
+    const double width = stroke.planWidth > 0 ? OnPaper(stroke.planWidth, output.Scale())
+                                              : stroke.width * kMicrometres;
+    auto image = std::make_unique<PnrLineImage>();
+    image->color = static_cast<qint32>(stroke.color);
+    image->thickness = Whole(width, 0);
+    return image;
 }
 
 const char* CSxfFeatureTarget::Take(const SPointFeature& point)
@@ -122,61 +137,63 @@ const char* CSxfFeatureTarget::Take(const SLineFeature& line)
     FillHead(line, object);
     const SFeatureStroke& stroke = line.stroke;
     if (IsDrawn(line, object, stroke.color != 0 || stroke.width > 0 || stroke.planWidth > 0)) {
-        const double width = stroke.planWidth > 0 ? OnPaper(stroke.planWidth, output.Scale())
-                                                  : stroke.width * kMicrometres;
-        object.image = std::make_unique<PnrLineImage>();
-        object.image->color = static_cast<qint32>(stroke.color);
-        object.image->thickness = Whole(width, 0);
-        ListStroke(stroke, line.layer);
+        object.image = Drawing(stroke, line.layer);
     }
     object.holders.push_back(Contour(line.points, line.is3D, false));
     return output.Write(object);
 }
 
-// The map fills areas with one colour and knows no outline.
 quint32 CSxfFeatureTarget::FillColour(const SAreaFeature& area)
 {
-    switch (area.fill.kind) {
-    case EFeatureFill::Solid:
-        if (area.stroke.isVisible && area.stroke.color != area.fill.color) {
-            tally.Lose(QStringLiteral("outlines of filled areas"), area.layer);
-        }
-        return area.fill.color;
-    case EFeatureFill::Pattern:
-        tally.Lose(QStringLiteral("patterns of areas became solid fills"), area.layer);
-        return area.fill.color;
-    case EFeatureFill::None:
-        break;
+    if (area.fill.kind == EFeatureFill::None) {
+        return kSxfNoColour;
     }
-    tally.Lose(QStringLiteral("areas without a fill are filled with the colour of their outline"),
-               area.layer);
-    ListStroke(area.stroke, area.layer);
-    return area.stroke.color;
+    if (area.fill.kind == EFeatureFill::Pattern) {
+        tally.Lose(QStringLiteral("patterns of areas became solid fills"), area.layer);
+    }
+    return area.fill.color;
+}
+
+const char* CSxfFeatureTarget::WriteArea(const SAreaFeature& area, const SAreaPart& part)
+{
+    CSquareObject object;
+    FillHead(area, object);
+    const bool hasLooks = area.fill.kind != EFeatureFill::None || area.stroke.color != 0;
+    const bool isDrawn = IsDrawn(area, object, hasLooks);
+    if (isDrawn) {
+        object.image = std::make_unique<PnrSquareImage>();
+        object.image->color = static_cast<qint32>(FillColour(area));
+    }
+    AddContours(area, part, object);
+    const char* as = output.Write(object);
+    const char* outline = isDrawn && area.stroke.isVisible ? WriteOutline(area, part) : nullptr;
+    return as != nullptr ? as : outline;
+}
+
+const char* CSxfFeatureTarget::WriteOutline(const SAreaFeature& area, const SAreaPart& part)
+{
+    CLineObject object;
+    object.layer = area.layer;
+    object.image = Drawing(area.stroke, area.layer);
+    AddContours(area, part, object);
+    const char* as = output.Write(object);
+    if (as != nullptr) {
+        tally.Lose(QStringLiteral("outlines of areas became lines behind them"), area.layer);
+    }
+    return as;
 }
 
 const char* CSxfFeatureTarget::Take(const SAreaFeature& area)
 {
-    const std::vector<SAreaPart> parts = AreaParts(area.rings);
     const char* as = nullptr;
-    bool isFirst = true;
+    const std::vector<SAreaPart> parts = AreaParts(area.rings);
     for (const SAreaPart& part : parts) {
-        CSquareObject object;
-        FillHead(area, object);
-        if (IsDrawn(area, object, area.fill.kind != EFeatureFill::None || area.stroke.color != 0)) {
-            object.image = std::make_unique<PnrSquareImage>();
-            object.image->color = static_cast<qint32>(FillColour(area));
-        }
-        object.holders.push_back(Contour(*part.outline, area.is3D, true));
-        for (const CFeatureLine* hole : part.holes) {
-            object.holders.push_back(Contour(*hole, area.is3D, true));
-        }
-        const char* written = output.Write(object);
-        as = as != nullptr ? as : written;
-        if (!isFirst && written != nullptr) {
+        const char* written = WriteArea(area, part);
+        if (as != nullptr && written != nullptr) {
             tally.Lose(QStringLiteral("further outlines of areas became areas of their own"),
                        area.layer);
         }
-        isFirst = false;
+        as = as != nullptr ? as : written;
     }
     return as;
 }

@@ -1,15 +1,19 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "tools/velorx/features/AreaParts.h"
 #include "tools/velorx/features/IFeatureTarget.h"
 #include "tools/velorx/features/SxfOutput.h"
 #include "tools/velorx/features/SxfSemantics.h"
+
+#include <memory>
 
 namespace velorx {
 
 class CFeatureTally;
 
-/// Writes features as an SXF map. Features without a classifier code get drawings of their own. Lengths on
+/// Writes features as an SXF map. Features without a classifier code get drawings of their own; an area of
+/// the format has no outline, so that the outline follows it as a line with the same contours. Lengths on
 /// the ground become lengths on paper by the scale of the map: that of the options, else the source's, else
 /// 1 to 1000.
 class CSxfFeatureTarget final : public IFeatureTarget
@@ -31,7 +35,10 @@ private:
     void FillHead(const SFeature& feature, VelorExchange::pnr::CBaseObject& object);
     bool IsDrawn(const SFeature& feature, const VelorExchange::pnr::CBaseObject& object,
                  bool hasLooks);
-    void ListStroke(const SFeatureStroke& stroke, const QString& layer);
+    std::unique_ptr<VelorExchange::pnr::PnrLineImage> Drawing(const SFeatureStroke& stroke,
+                                                              const QString& layer);
+    const char* WriteArea(const SAreaFeature& area, const SAreaPart& part);
+    const char* WriteOutline(const SAreaFeature& area, const SAreaPart& part);
     quint32 FillColour(const SAreaFeature& area);
     void FillLetters(const STextFeature& text, VelorExchange::pnr::PnrTextImage& image);
 

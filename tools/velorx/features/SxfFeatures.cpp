@@ -2,72 +2,56 @@
 #include "tools/velorx/features/SxfFeatures.h"
 
 #include "tools/velorx/features/FeatureTally.h"
-#include "tools/velorx/features/SxfAlign.h"
 #include "tools/velorx/features/SxfOutput.h"
-#include "tools/velorx/features/SxfTextPlace.h"
+#include "tools/velorx/features/SxfPoints.h"
 #include "tools/velorx/formats/SxfCodes.h"
 
 #include <QSet>
-#include <QStringList>
 
 #include <algorithm>
-#include <cmath>
 #include <utility>
 
 namespace velorx {
 
 using namespace VelorExchange::pnr;
-using VelorExchange::CPoint2D;
 using VelorExchange::CPoint3D;
 
 namespace {
 
 constexpr quint32 kColour = 0xFFFFFF;
-constexpr quint32 kNoColour = 0xFFFFFFFF;
 constexpr double kMicrometres = 1000.0; // in a millimetre
 constexpr double kPoints = 72.0 / 25.4; // in a millimetre
 constexpr double kRingShare = 0.125; // of the height of the common mark
-constexpr quint16 kBold = 600;
-
-CPoint3D ToFeature(const CPoint2D& vertex)
-{
-    return {vertex.y, vertex.x, 0.0};
-}
-
-CPoint3D ToFeature(const CPoint3D& vertex)
-{
-    return {vertex.y, vertex.x, vertex.z};
-}
-
-template <class Holder>
-CFeatureLine Points(const CAbstractVertexHolder& contour)
-{
-    CFeatureLine points;
-    for (const auto& vertex : static_cast<const Holder&>(contour).vertices) {
-        points.push_back(ToFeature(vertex));
-    }
-    return points;
-}
-
-// The map's x counts to the north.
-CFeatureLine Points(const CAbstractVertexHolder& contour)
-{
-    return contour.Is2D() ? Points<CVertexHolder2D>(contour) : Points<CVertexHolder3D>(contour);
-}
-
-double Direction(const CFeatureLine& points)
-{
-    return points.size() < 2 ? 0.0
-                             : std::atan2(points[1].y - points[0].y, points[1].x - points[0].x);
-}
 
 CFeatureLine Ring(const CAbstractVertexHolder& contour)
 {
-    CFeatureLine ring = Points(contour);
+    CFeatureLine ring = SxfPoints(contour);
     if (ring.size() > 1 && ring.front().x == ring.back().x && ring.front().y == ring.back().y) {
         ring.pop_back();
     }
     return ring;
+}
+
+bool IsClosed(const CFeatureLine& ring, const CFeatureLine& closed)
+{
+    const auto isSame = [](const CPoint3D& a, const CPoint3D& b) {
+        return a.x == b.x && a.y == b.y && a.z == b.z;
+    };
+    return closed.size() == ring.size() + 1 && isSame(closed.back(), ring.front())
+        && std::equal(ring.begin(), ring.end(), closed.begin(), isSame);
+}
+
+bool HasAttributes(const CBaseObject& object)
+{
+    return std::any_of(object.semantics.begin(), object.semantics.end(),
+                       [](const PnrSemantic& s) { return s.code != kSxfLayerCode; });
+}
+
+void SetStroke(SFeatureStroke& stroke, const PnrLineImage& image)
+{
+    stroke.isVisible = true;
+    stroke.color = static_cast<quint32>(image.color) & kColour;
+    stroke.width = std::max(image.thickness, 0) / kMicrometres;
 }
 
 QString AttributeName(const PnrSemantic& semantic)
@@ -110,18 +94,59 @@ CFeatureAttributes CSxfFeatures::Attributes(const CBaseObject& object)
     return attributes->empty() ? nullptr : attributes;
 }
 
+// Our writers put the outline of an area behind it, as a line with the same contours.
+bool CSxfFeatures::IsOutline(const CLineObject& line) const
+{
+    if (!pending || !line.image || line.code != 0 || line.layer != pending->layer
+        || HasAttributes(line) || line.holders.size() != pending->rings.size())
+    {
+        return false;
+    }
+    return std::equal(line.holders.begin(), line.holders.end(), pending->rings.begin(),
+                      [](const auto& contour, const CFeatureLine& ring) {
+                          return contour->Count() == ring.size() + 1
+                              && IsClosed(ring, SxfPoints(*contour));
+                      });
+}
+
+void CSxfFeatures::Finish()
+{
+    HandOnPending();
+}
+
+const char* CSxfFeatures::HandOnPending()
+{
+    if (!pending) {
+        return nullptr;
+    }
+    const char* as = sink.Take(*pending);
+    if (as != nullptr) {
+        tally.Wrote(kSxfArea, as);
+    }
+    pending.reset();
+    return as;
+}
+
 void CSxfFeatures::Take(CLineObject& line)
 {
+    if (IsOutline(line)) {
+        tally.Read(kSxfOutline);
+        SetStroke(pending->stroke, *line.image);
+        if (const char* as = HandOnPending()) {
+            tally.Wrote(kSxfOutline, as);
+        }
+        return;
+    }
+    HandOnPending();
     SLineFeature feature;
     FillHead(feature, line);
     if (line.image) {
-        feature.stroke.color = static_cast<quint32>(line.image->color) & kColour;
-        feature.stroke.width = std::max(line.image->thickness, 0) / kMicrometres;
+        SetStroke(feature.stroke, *line.image);
     }
     feature.kind = kSxfLine;
     for (const auto& contour : line.holders) {
         tally.Read(feature.kind);
-        feature.points = Points(*contour);
+        feature.points = SxfPoints(*contour);
         if (feature.points.size() < 2) {
             tally.Lose(QStringLiteral("lines of a single vertex"), feature.layer);
         } else {
@@ -135,38 +160,53 @@ void CSxfFeatures::Take(CLineObject& line)
     }
 }
 
+// An area with a drawing of its own waits for the next object, which may be its outline.
 void CSxfFeatures::Take(CSquareObject& area)
 {
+    HandOnPending();
     SAreaFeature feature;
     feature.kind = kSxfArea;
     FillHead(feature, area);
+    tally.Read(kSxfArea);
+    if (!FillRings(feature, area)) {
+        return;
+    }
     if (area.image) {
-        feature.fill.kind = EFeatureFill::Solid;
-        feature.fill.color = static_cast<quint32>(area.image->color) & kColour;
+        const auto color = static_cast<quint32>(area.image->color);
+        feature.fill.kind = color == kSxfNoColour ? EFeatureFill::None : EFeatureFill::Solid;
+        feature.fill.color = color & kColour;
         feature.stroke.color = feature.fill.color;
         feature.stroke.isVisible = false;
     }
-    tally.Read(kSxfArea);
+    pending = std::move(feature);
+    if (!area.image || area.code != 0) {
+        HandOnPending();
+    }
+}
+
+bool CSxfFeatures::FillRings(SAreaFeature& feature, const CSquareObject& area)
+{
     for (const auto& contour : area.holders) {
         CFeatureLine ring = Ring(*contour);
         if (ring.size() >= 3) {
             feature.rings.push_back(std::move(ring));
         } else if (feature.rings.empty()) {
             tally.Lose(QStringLiteral("areas of less than three vertices"), feature.layer);
-            return;
+            return false;
         } else {
             tally.Lose(QStringLiteral("holes of less than three vertices"), feature.layer);
         }
     }
     if (feature.rings.empty()) {
         tally.Lose(QStringLiteral("areas without a vertex"), feature.layer);
-        return;
+        return false;
     }
-    HandOn(feature, sink, tally);
+    return true;
 }
 
 void CSxfFeatures::Take(CPointObject& point)
 {
+    HandOnPending();
     SPointFeature feature;
     FillHead(feature, point);
     if (point.image) {
@@ -178,12 +218,12 @@ void CSxfFeatures::Take(CPointObject& point)
     feature.kind = kSxfPoint;
     for (const auto& contour : point.holders) {
         tally.Read(feature.kind);
-        const CFeatureLine points = Points(*contour);
+        const CFeatureLine points = SxfPoints(*contour);
         if (points.empty()) {
             tally.Lose(QStringLiteral("points without a vertex"), feature.layer);
         } else {
             feature.position = points.front();
-            feature.symbol.angle = Direction(points);
+            feature.symbol.angle = SxfDirection(points);
             if (points.size() > 1) {
                 tally.Lose(QStringLiteral("vectors became points with a direction"), feature.layer);
             }
@@ -195,64 +235,6 @@ void CSxfFeatures::Take(CPointObject& point)
         tally.Read(feature.kind);
         tally.Lose(QStringLiteral("points without a vertex"), feature.layer);
     }
-}
-
-void CSxfFeatures::FillLetters(STextFeature& feature, const CTextObject& text)
-{
-    feature.height = OnGround(text.image.height, scale);
-    if (!text.hasOwnImage) {
-        return; // the classifier knows
-    }
-    feature.color = text.image.color & kColour;
-    feature.font = text.image.fontName;
-    feature.isBold = text.image.weight >= kBold;
-    feature.isItalic = text.image.italic != 0;
-    feature.isUnderlined = text.image.uline != 0;
-    if (text.image.xline != 0) {
-        tally.Lose(QStringLiteral("texts that were struck out"), feature.layer);
-    }
-    if (text.image.bColor != kNoColour || text.image.sColor != kNoColour) {
-        tally.Lose(QStringLiteral("backgrounds and shadows of texts"), feature.layer);
-    }
-}
-
-void CSxfFeatures::Take(CTextObject& text)
-{
-    STextFeature feature;
-    FillHead(feature, text);
-    FillLetters(feature, text);
-    const auto parts = text.extraTexts.size() + 1;
-    QStringList lines(text.text);
-    for (const QString& part : text.extraTexts) {
-        lines.append(part);
-    }
-    const bool isApart = text.holders.size() == parts;
-    for (std::size_t i = 0; i < (isApart ? parts : 1); ++i) {
-        feature.text = isApart ? lines.at(static_cast<int>(i)) : lines.join(QLatin1Char('\n'));
-        feature.kind = i == 0 ? kSxfText : kSxfTextPart;
-        HandOnPart(feature, text, i);
-        feature.attributes = nullptr; // they stand with the first part
-    }
-}
-
-void CSxfFeatures::HandOnPart(STextFeature& feature, const CTextObject& text, std::size_t part)
-{
-    tally.Read(feature.kind);
-    const CFeatureLine points =
-        part < text.holders.size() ? Points(*text.holders[part]) : CFeatureLine();
-    if (points.empty() || feature.text.trimmed().isEmpty()) {
-        tally.Lose(QStringLiteral("texts without letters or place"), feature.layer);
-        return;
-    }
-    const SSxfAlign align = FromSxfAlign(part == 0 ? text.image.align : text.extraAligns[part - 1]);
-    const SSxfTextLine line = {{points.front().y, points.front().x},
-                               {points.back().y, points.back().x}};
-    const CPoint2D place = PlaceOn(line, align.along);
-    feature.position = {place.y, place.x, points.front().z};
-    feature.rotation = Direction(points);
-    feature.align = align.along;
-    feature.vertical = align.across;
-    HandOn(feature, sink, tally);
 }
 
 void CSxfFeatures::TakeFrame()

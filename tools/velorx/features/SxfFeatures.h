@@ -4,6 +4,8 @@
 #include "tools/velorx/features/Feature.h"
 #include "tools/velorx/formats/SxfReading.h"
 
+#include <optional>
+
 namespace velorx {
 
 class CFeatureTally;
@@ -11,10 +13,12 @@ class IFeatureSink;
 
 /// The further contours of a line, each a line of its own.
 constexpr char kSxfLinePart[] = "Line, further contour";
+/// A line that is the outline of the area ahead of it.
+constexpr char kSxfOutline[] = "Line, outline of an area";
 /// The further contours of a point, each a point of its own.
 constexpr char kSxfPointPart[] = "Point, further contour";
 
-/// Makes features of the objects of a map, one at a time.
+/// Makes features of the objects of a map. An area waits for the object behind it, which may be its outline.
 class CSxfFeatures final : public ISxfHost
 {
 public:
@@ -30,7 +34,13 @@ public:
     void Take(VelorExchange::pnr::CTextObject& text) override;
     void TakeFrame() override;
 
+    /// Call it behind the last object.
+    void Finish();
+
 private:
+    bool IsOutline(const VelorExchange::pnr::CLineObject& line) const;
+    bool FillRings(SAreaFeature& feature, const VelorExchange::pnr::CSquareObject& area);
+    const char* HandOnPending();
     void FillHead(SFeature& feature, const VelorExchange::pnr::CBaseObject& object);
     CFeatureAttributes Attributes(const VelorExchange::pnr::CBaseObject& object);
     void HandOnPart(STextFeature& feature, const VelorExchange::pnr::CTextObject& text,
@@ -40,6 +50,7 @@ private:
     IFeatureSink& sink;
     CFeatureTally& tally;
     int scale;
+    std::optional<SAreaFeature> pending; ///< Read and not yet handed on.
 };
 
 } // namespace velorx

@@ -19,6 +19,9 @@ constexpr qint32 kSxfFrameCode = 91000000;
 constexpr int kFirstSxfAlign = 20;
 constexpr int kLastSxfAlign = 31;
 
+/// The colour of what is not drawn.
+constexpr quint32 kSxfNoColour = 0xFFFFFFFF;
+
 /// The layer of objects that are told none.
 constexpr char kSxfNoLayer[] = "SYSTEM";
 
