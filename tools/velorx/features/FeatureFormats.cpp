@@ -3,10 +3,10 @@
 
 #include "tools/velorx/features/DxfFeatureSource.h"
 #include "tools/velorx/features/FeatureTally.h"
-#include "tools/velorx/features/SxfFeatureSource.h"
-#include "tools/velorx/features/SxfFeatureTarget.h"
 #include "tools/velorx/features/MifFeatureSource.h"
 #include "tools/velorx/features/MifFeatureTarget.h"
+#include "tools/velorx/features/SxfFeatureSource.h"
+#include "tools/velorx/features/SxfFeatureTarget.h"
 
 #include <algorithm>
 #include <vector>
