@@ -288,6 +288,7 @@ TEST(LineStyleFile, ManyStylesAndOneEndlessLineTakeLinearTime)
     EXPECT_EQ(Read(QByteArray("*a,b\nA,1\n").repeated(100000)).size(), 100000U);
     EXPECT_EQ(Read("*a,b\nA," + QByteArray("1,").repeated(1000000)).front().pattern.size(),
               1000000U);
+    EXPECT_EQ(Pattern("1," + QByteArray("x ").repeated(1000000)), "1");
     EXPECT_EQ(Pattern(QByteArray("[").repeated(1000000)), "none");
     EXPECT_EQ(Pattern("1," + QByteArray("[a],").repeated(300000)), "1");
     EXPECT_EQ(Pattern("1,[" + QByteArray("a,").repeated(300000) + "]"), "1");

@@ -2,6 +2,8 @@
 #include "tests/support/TextFile.h"
 #include "VelorExchange/dxf/write/StyleFiles.h"
 
+#include <QElapsedTimer>
+
 using namespace VelorExchange::dxf;
 using VelorExchange::test::CTextFile;
 
@@ -135,4 +137,16 @@ TEST(MLineStyleFile, FileCutAnywhereIsRead)
     for (int size = 0; size <= whole.size(); ++size) {
         EXPECT_LE(Read(whole.left(size)).size(), 2U);
     }
+}
+
+TEST(MLineStyleFile, ManyStylesAndOneEndlessStyleTakeLinearTime)
+{
+    QElapsedTimer timer;
+    timer.start();
+    EXPECT_EQ(Read(QByteArray("MLSTYLE\n2\na\n49\n1\n").repeated(100000)).size(), 100000U);
+    const auto styles =
+        Read("2\n" + QByteArray(1000000, 'x') + '\n' + QByteArray("49\n1\n").repeated(300000));
+    EXPECT_EQ(styles.front().name.size(), 1000000);
+    EXPECT_EQ(styles.front().offsets.size(), 300000U);
+    EXPECT_LT(timer.elapsed(), 30000);
 }

@@ -2,6 +2,8 @@
 #include "tests/support/TextFile.h"
 #include "VelorExchange/dxf/write/StyleFiles.h"
 
+#include <QElapsedTimer>
+
 using namespace VelorExchange::dxf;
 using VelorExchange::test::CTextFile;
 
@@ -74,4 +76,14 @@ TEST(ShapeFile, LaterShapeOfANameStands)
 TEST(ShapeFile, LastLineNeedsNoLineEnd)
 {
     EXPECT_EQ(Read("*130,6,BOX"), "BOX 130");
+}
+
+TEST(ShapeFile, ManyShapesAndOneEndlessLineTakeLinearTime)
+{
+    QElapsedTimer timer;
+    timer.start();
+    EXPECT_EQ(Read(QByteArray("*130,6,BOX\n").repeated(100000)), "BOX 130");
+    // Every other character is a blank to take out.
+    EXPECT_EQ(Read("*1,2," + QByteArray("x ").repeated(1000000)), std::string(1000000, 'x') + " 1");
+    EXPECT_LT(timer.elapsed(), 30000);
 }
