@@ -7,7 +7,7 @@ using VelorExchange::CTextDecoder;
 
 namespace {
 
-const char* const kCodecs[] = {"windows-1251", "IBM866",    "KOI8-R",   "ISO-8859-1",
+const char* const kCodecs[] = {"windows-1251", "IBM866",    "KOI8-R",      "ISO-8859-1",
                                "UTF-8",        "Shift_JIS", "ISO-2022-JP", "GB18030"};
 
 QString Trimmed(const CTextDecoder& decoder, const QByteArray& line)
@@ -54,8 +54,8 @@ TEST(LocalText, RandomLinesDecodeAndTrimAsQt)
         for (int i = 0; i < 5000; ++i) {
             QByteArray line;
             for (auto length = random() % 12; length > 0; --length) {
-                line.append(
-                    static_cast<char>(random() % 3 == 0 ? " \t\r\n;1"[random() % 6] : random()));
+                line.append(random() % 3 == 0 ? " \t\r\n;1"[random() % 6]
+                                              : static_cast<char>(random()));
             }
             ExpectAsQt(name, decoder, line);
         }
