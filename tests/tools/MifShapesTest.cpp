@@ -16,6 +16,24 @@ namespace {
 
 constexpr double kPi = 3.141592653589793;
 
+CFeatureLine ArcLine(const CArcMIF& arc, double chord)
+{
+    CChords chords(chord);
+    return MifArcLine(arc, chords);
+}
+
+CFeatureLine EllipseRing(const CRectMIF& ellipse, double chord)
+{
+    CChords chords(chord);
+    return MifEllipseRing(ellipse, chords);
+}
+
+CFeatureLine RoundRectRing(const CRoundRectMIF& rect, double chord)
+{
+    CChords chords(chord);
+    return MifRoundRectRing(rect, chords);
+}
+
 double AreaOf(const CFeatureLine& ring)
 {
     return SignedArea(ring) / 2.0;
@@ -47,7 +65,7 @@ CArcMIF Arc(double start, double end)
 
 TEST(MifShapes, ArcRunsCounterClockwiseFromItsStartToItsEnd)
 {
-    const CFeatureLine line = MifArcLine(Arc(0, kPi / 2), 0.01);
+    const CFeatureLine line = ArcLine(Arc(0, kPi / 2), 0.01);
     EXPECT_NEAR(line.front().x, 10, 1e-12);
     EXPECT_NEAR(line.front().y, 0, 1e-12);
     EXPECT_NEAR(line.back().x, 0, 1e-12);
@@ -57,7 +75,7 @@ TEST(MifShapes, ArcRunsCounterClockwiseFromItsStartToItsEnd)
 
 TEST(MifShapes, ArcRunsOnThroughZero)
 {
-    const CFeatureLine line = MifArcLine(Arc(1.5 * kPi, 0.5 * kPi), 0.01);
+    const CFeatureLine line = ArcLine(Arc(1.5 * kPi, 0.5 * kPi), 0.01);
     EXPECT_NEAR(line.front().y, -10, 1e-12);
     EXPECT_NEAR(line.back().y, 10, 1e-12);
     EXPECT_GT(line[line.size() / 2].x, 9);
@@ -65,7 +83,7 @@ TEST(MifShapes, ArcRunsOnThroughZero)
 
 TEST(MifShapes, ArcOfEqualAnglesIsAWholeTurn)
 {
-    const CFeatureLine line = MifArcLine(Arc(1, 1), 0.01);
+    const CFeatureLine line = ArcLine(Arc(1, 1), 0.01);
     EXPECT_GT(line.size(), 20U);
     EXPECT_NEAR(line.front().x, line.back().x, 1e-9);
 }
@@ -73,7 +91,7 @@ TEST(MifShapes, ArcOfEqualAnglesIsAWholeTurn)
 TEST(MifShapes, ChordsKeepToTheTolerance)
 {
     for (const double chord : {1.0, 0.1, 0.01, 0.0001}) {
-        const double worst = WorstSag(MifArcLine(Arc(0, 5), chord), 0, 0, 10);
+        const double worst = WorstSag(ArcLine(Arc(0, 5), chord), 0, 0, 10);
         EXPECT_LE(worst, chord * (1 + 1e-9));
         EXPECT_GT(worst, chord / 4);
     }
@@ -83,7 +101,7 @@ TEST(MifShapes, LargeToleranceStillLeavesAnOctagon)
 {
     CRectMIF circle;
     circle.corner2 = {2, 2};
-    EXPECT_EQ(MifEllipseRing(circle, 1e9).size(), 8U);
+    EXPECT_EQ(EllipseRing(circle, 1e9).size(), 8U);
 }
 
 TEST(MifShapes, EllipseHasTheAreaOfOne)
@@ -91,7 +109,7 @@ TEST(MifShapes, EllipseHasTheAreaOfOne)
     CRectMIF ellipse;
     ellipse.corner1 = {10, 20};
     ellipse.corner2 = {0, 0};
-    const CFeatureLine ring = MifEllipseRing(ellipse, 0.0001);
+    const CFeatureLine ring = EllipseRing(ellipse, 0.0001);
     EXPECT_NEAR(AreaOf(ring), kPi * 5 * 10, 0.01);
     EXPECT_GT(std::hypot(ring.front().x - ring.back().x, ring.front().y - ring.back().y), 0.01);
 }
@@ -106,7 +124,7 @@ TEST(MifShapes, RoundingIsTheDiameterThatTheFileTells)
     CRoundRectMIF rect;
     rect.corner2 = {10, 20};
     rect.radius = 4 * kPi / 180; // what the library makes of a 4
-    EXPECT_NEAR(AreaOf(MifRoundRectRing(rect, 0.00001)), 200 - (4 - kPi) * 2 * 2, 0.001);
+    EXPECT_NEAR(AreaOf(RoundRectRing(rect, 0.00001)), 200 - (4 - kPi) * 2 * 2, 0.001);
 }
 
 TEST(MifShapes, RoundingIsNoMoreThanTheSidesAllow)
@@ -114,20 +132,22 @@ TEST(MifShapes, RoundingIsNoMoreThanTheSidesAllow)
     CRoundRectMIF rect;
     rect.corner2 = {10, 10};
     rect.radius = 1000;
-    EXPECT_NEAR(AreaOf(MifRoundRectRing(rect, 0.00001)), kPi * 25, 0.001);
+    EXPECT_NEAR(AreaOf(RoundRectRing(rect, 0.00001)), kPi * 25, 0.001);
     rect.radius = 0;
-    EXPECT_EQ(MifRoundRectRing(rect, 0.1).size(), 4U);
+    EXPECT_EQ(RoundRectRing(rect, 0.1).size(), 4U);
 }
 
 TEST(MifShapes, NumbersThatAreNoneDoNoHarm)
 {
     CArcMIF arc = Arc(std::nan(""), 1);
+    EXPECT_TRUE(ArcLine(arc, 0.01).empty());
+    arc = Arc(0, 1);
     arc.corner1.x = -HUGE_VAL;
-    EXPECT_LT(MifArcLine(arc, 0.01).size(), 200'000U);
-    EXPECT_LT(MifArcLine(Arc(0, 6), 1e-300).size(), 200'000U);
-    CRectMIF huge;
-    huge.corner2 = {1e300, 1e300};
-    EXPECT_LT(MifEllipseRing(huge, 1e-9).size(), 200'000U);
+    EXPECT_LE(ArcLine(arc, 0.01).size(), 10'001U);
+    CRoundRectMIF rect;
+    rect.corner2 = {std::nan(""), 1};
+    rect.radius = 1;
+    EXPECT_LE(RoundRectRing(rect, 0.01).size(), 40'004U);
 }
 
 } // namespace velorx::test

@@ -74,17 +74,6 @@ TEST(RingNesting, RingsWithoutAreaDoNoHarm)
     EXPECT_TRUE(NestRings({}).empty());
 }
 
-TEST(RingNesting, SortsFromOutsideInwards)
-{
-    std::vector<CFeatureLine> rings = {Square(2, 2, 2), Square(20, 0, 5), Square(1, 1, 8),
-                                       Square(0, 0, 10)};
-    SortOutermostFirst(rings);
-    EXPECT_EQ(rings[0][0].x, 20);
-    EXPECT_EQ(rings[1][0].x, 0);
-    EXPECT_EQ(rings[2][0].x, 1);
-    EXPECT_EQ(rings[3][0].x, 2);
-}
-
 TEST(RingNesting, ManyIslandsTakeNoTime)
 {
     std::vector<CFeatureLine> rings;

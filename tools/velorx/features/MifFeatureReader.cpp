@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "tools/velorx/features/MifFeatureReader.h"
 
+#include "tools/velorx/features/FiniteFeature.h"
 #include "tools/velorx/features/MifBrush.h"
 #include "tools/velorx/features/MifPen.h"
 #include "tools/velorx/features/MifShapes.h"
 #include "tools/velorx/features/MifSymbol.h"
 #include "tools/velorx/features/MifText.h"
-#include "tools/velorx/features/RingNesting.h"
+#include "tools/velorx/features/RingOrder.h"
 
 #include <QFileInfo>
 
@@ -22,6 +23,8 @@ namespace {
 
 constexpr std::size_t kLeastLine = 2;
 constexpr std::size_t kLeastRing = 3;
+constexpr std::size_t kRectangle = 4; // corners
+constexpr char kCurves[] = "curves, written in chords";
 
 CFeatureLine PointsOf(const std::vector<CPoint2D>& points)
 {
@@ -48,8 +51,9 @@ CFeatureLine RingOf(const std::vector<CPoint2D>& points)
 CMifFeatureReader::CMifFeatureReader(const SMifFiles& files, QString layer,
                                      const SSourceOptions& sourceOptions, IFeatureSink& target,
                                      CFeatureTally& counts)
-    : rows(files.table, files.rows), tableLayer(std::move(layer)), options(sourceOptions),
-      sink(target), tally(counts), fileSize(QFileInfo(files.table).size())
+    : rows(files.table, files.rows), tableLayer(std::move(layer)), chords(sourceOptions.chord),
+      progress(sourceOptions.progress), sink(target), tally(counts),
+      fileSize(QFileInfo(files.table).size())
 {
 }
 
@@ -106,6 +110,18 @@ void CMifFeatureReader::FillLook(SAreaFeature& area, const CPenMIF& pen, const C
 
 // ---- Objects ------------------------------------------------------------------------------------
 
+template <class TFeature>
+void CMifFeatureReader::Deliver(const TFeature& feature)
+{
+    if (IsFinite(feature)) {
+        HandOn(feature, sink, tally);
+    } else {
+        tally.Lose(QLatin1String(feature.kind)
+                       + QStringLiteral(", with a number that is none: left out"),
+                   feature.layer);
+    }
+}
+
 template <class TRecord>
 void CMifFeatureReader::DeliverRing(const char* kind, const TRecord& record, CFeatureLine ring)
 {
@@ -113,18 +129,19 @@ void CMifFeatureReader::DeliverRing(const char* kind, const TRecord& record, CFe
     SAreaFeature area;
     FillHead(area, kind, record);
     FillLook(area, record.pen, record.brush);
+    LoseIf(ring.size() > kRectangle, kCurves, area.layer);
     area.rings.push_back(std::move(ring));
-    HandOn(area, sink, tally);
+    Deliver(area);
 }
 
 void CMifFeatureReader::AddRoundRect(const CRoundRectMIF& rect)
 {
-    DeliverRing("RoundRect", rect, MifRoundRectRing(rect, options.chord));
+    DeliverRing("RoundRect", rect, MifRoundRectRing(rect, chords));
 }
 
 void CMifFeatureReader::AddEllipse(const CRectMIF& rect)
 {
-    DeliverRing("Ellipse", rect, MifEllipseRing(rect, options.chord));
+    DeliverRing("Ellipse", rect, MifEllipseRing(rect, chords));
 }
 
 void CMifFeatureReader::AddRect(const CRectMIF& rect)
@@ -137,10 +154,11 @@ void CMifFeatureReader::AddArc(const CArcMIF& arc)
     rows.Deliver();
     SLineFeature line;
     FillHead(line, "Arc", arc);
-    line.points = MifArcLine(arc, options.chord);
+    line.points = MifArcLine(arc, chords);
     line.stroke = StrokeOfPen(arc.pen);
     CountPen(arc.pen, line.layer);
-    HandOn(line, sink, tally);
+    LoseIf(true, kCurves, line.layer);
+    Deliver(line);
 }
 
 void CMifFeatureReader::AddText(const CTextMIF& record)
@@ -153,7 +171,7 @@ void CMifFeatureReader::AddText(const CTextMIF& record)
     LoseIf(extras.hasBackground, "backgrounds of texts", text.layer);
     LoseIf(extras.hasLabelLine, "lines from texts to their places", text.layer);
     LoseIf(extras.hasNoSize, "texts without a size have a height of 1", text.layer);
-    HandOn(text, sink, tally);
+    Deliver(text);
 }
 
 void CMifFeatureReader::AddPolyline(const CPolylineMIF& record)
@@ -169,7 +187,7 @@ void CMifFeatureReader::AddPolyline(const CPolylineMIF& record)
     line.stroke = StrokeOfPen(record.pen);
     CountPen(record.pen, line.layer);
     LoseIf(record.smooth, "smooth lines run straight from vertex to vertex", line.layer);
-    HandOn(line, sink, tally);
+    Deliver(line);
 }
 
 void CMifFeatureReader::AddRegion(const CRegionMIF& record)
@@ -191,8 +209,8 @@ void CMifFeatureReader::AddRegion(const CRegionMIF& record)
 void CMifFeatureReader::DeliverArea()
 {
     if (!region.rings.empty()) {
-        SortOutermostFirst(region.rings);
-        HandOn(region, sink, tally);
+        PutOutermostFirst(region.rings);
+        Deliver(region);
         region.rings.clear();
     }
 }
@@ -206,15 +224,15 @@ void CMifFeatureReader::AddPoint(const CPointMIF& record)
     point.symbol = SymbolOfMif(record.symbol);
     LoseIf(HasPicture(record.symbol), "pictures of points", point.layer);
     LoseIf(record.symbol.style != 0, "effects of symbols (border, halo, shadow)", point.layer);
-    HandOn(point, sink, tally);
+    Deliver(point);
 }
 
 // ---- Progress -----------------------------------------------------------------------------------
 
 void CMifFeatureReader::SetProgressRange(int /*total*/)
 {
-    if (options.progress != nullptr) {
-        options.progress->Begin(QString(), fileSize);
+    if (progress != nullptr) {
+        progress->Begin(QString(), fileSize);
     }
 }
 
@@ -222,13 +240,17 @@ void CMifFeatureReader::SetProgress(int position)
 {
     DeliverArea();
     rows.Report(static_cast<quint32>(position));
-    if (options.progress != nullptr) {
-        options.progress->SetPosition(rows.Position());
+    if (progress != nullptr) {
+        progress->SetPosition(rows.Position());
     }
 }
 
 void CMifFeatureReader::Finish()
 {
+    if (chords.Coarse() > 0) {
+        tally.Lose(QStringLiteral("curves in 10,000 chords each, which are coarser than asked for"),
+                   QString(), chords.Coarse());
+    }
     const qint64 left = rows.Left().value_or(0);
     if (left > 0) {
         tally.Remark(

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "tools/velorx/features/Chords.h"
 #include "tools/velorx/features/FeatureTally.h"
 #include "tools/velorx/features/IFeatureSource.h"
 #include "tools/velorx/features/MifAttributes.h"
@@ -21,7 +22,7 @@ namespace velorx {
 class CMifFeatureReader final : public VelorExchange::mif::IMIFReader
 {
 public:
-    /// `sink`, `tally` and what `options` points to outlive it. `layer` is the layer of objects whose row
+    /// `sink`, `tally` and the progress of `options` outlive it. `layer` is the layer of objects whose row
     /// tells none.
     CMifFeatureReader(const SMifFiles& files, QString layer, const SSourceOptions& options,
                       IFeatureSink& sink, CFeatureTally& tally);
@@ -47,11 +48,14 @@ private:
     template <class TRecord>
     void DeliverRing(const char* kind, const TRecord& record, CFeatureLine ring);
     void DeliverArea();
+    template <class TFeature>
+    void Deliver(const TFeature& feature);
     void LoseIf(bool isLost, const char* what, const QString& layer);
 
     CMifRows rows;
     const QString tableLayer;
-    const SSourceOptions options;
+    CChords chords;
+    VelorExchange::dxf::IDXFProgress* progress;
     IFeatureSink& sink;
     CFeatureTally& tally;
     CMifAttributes attributes;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "tools/velorx/features/MifFeatureTarget.h"
 
+#include "tools/velorx/features/AreaParts.h"
 #include "tools/velorx/features/MifAttributes.h"
 #include "tools/velorx/features/MifBrush.h"
 #include "tools/velorx/features/MifCodePage.h"
@@ -8,7 +9,6 @@
 #include "tools/velorx/features/MifSymbol.h"
 #include "tools/velorx/features/MifText.h"
 #include "tools/velorx/features/RingBridge.h"
-#include "tools/velorx/features/RingNesting.h"
 #include "VelorExchange/foundation/FileError.h"
 
 #include <QDir>
@@ -211,33 +211,32 @@ void CMifFeatureTarget::CountAreaLosses(const SAreaFeature& area)
 // Each outline with its holes is a region of one ring, since the library writes no others.
 void CMifFeatureTarget::WriteParts(const SAreaFeature& area, const CBrushMIF& brush)
 {
-    const std::vector<SRingNest> nests = NestRings(area.rings);
-    std::vector<std::vector<CFeatureLine>> holes(area.rings.size());
     qint64 joined = 0;
-    for (std::size_t i = 0; i < nests.size(); ++i) {
-        if (nests[i].depth % 2 != 0 && area.rings[i].size() >= kLeastRing) {
-            holes[static_cast<std::size_t>(nests[i].around)].push_back(area.rings[i]);
-            ++joined;
-        }
-    }
-    qint64 parts = 0;
-    for (std::size_t i = 0; i < nests.size(); ++i) {
-        if (nests[i].depth % 2 != 0 || area.rings[i].size() < kLeastRing) {
+    qint64 written = 0;
+    for (const SAreaPart& part : AreaParts(area.rings)) {
+        if (part.outline->size() < kLeastRing) {
             continue;
         }
+        std::vector<CFeatureLine> holes;
+        for (const CFeatureLine* hole : part.holes) {
+            if (hole->size() >= kLeastRing) {
+                holes.push_back(*hole);
+            }
+        }
+        joined += static_cast<qint64>(holes.size());
         CRegionMIF record;
-        record.points = InPlan(JoinHoles(area.rings[i], std::move(holes[i])));
+        record.points = InPlan(JoinHoles(*part.outline, std::move(holes)));
         record.brush = brush;
         for (const CPoint2D& point : record.points) {
             extents.Add(point);
         }
         Write(area, record, &IMIFWriter::AddRegion, "Region");
-        if (parts++ > 0) {
+        if (written++ > 0) {
             tally.Wrote(area.kind, "Region"); // the caller counts the first
         }
     }
     LoseIf(joined > 0, "holes are joined to their areas by a cut", area, joined);
-    LoseIf(parts > 1, "parts of areas became regions of their own", area, parts);
+    LoseIf(written > 1, "parts of areas became regions of their own", area, written);
 }
 
 const char* CMifFeatureTarget::Take(const SAreaFeature& area)

@@ -12,7 +12,6 @@ using VelorExchange::CPoint2D;
 namespace {
 
 constexpr double kPi = 3.141592653589793;
-constexpr double kMostSegments = 100000.0;
 
 /// The rectangle between two corners.
 struct SFrame
@@ -29,63 +28,27 @@ struct SFrame
     }
 };
 
-/// An ellipse whose axes lie along those of the plan.
-struct SEllipse
+SEllipse EllipseIn(const SFrame& frame)
 {
-    CPoint2D centre;
-    CPoint2D radius;
-
-    explicit SEllipse(const SFrame& frame)
-        : centre{(frame.left + frame.right) / 2.0, (frame.bottom + frame.top) / 2.0},
-          radius{(frame.right - frame.left) / 2.0, (frame.top - frame.bottom) / 2.0}
-    {
-    }
-
-    VelorExchange::CPoint3D At(double angle) const
-    {
-        return {centre.x + radius.x * std::cos(angle), centre.y + radius.y * std::sin(angle), 0.0};
-    }
-};
-
-// An ellipse is a circle of its greater radius, squeezed, so that its chords are off by no more than
-// those of the circle. Eight segments a turn at least.
-int SegmentsOf(double radius, double sweep, double chord)
-{
-    double step = kPi / 4.0;
-    if (radius > chord && chord > 0.0) {
-        step = std::min(step, 2.0 * std::acos(1.0 - chord / radius));
-    }
-    const double segments = std::ceil(sweep / step - 1e-9);
-    return static_cast<int>(segments >= 1.0 ? std::min(segments, kMostSegments) : 1.0);
-}
-
-// Appends the arc from `start`, without its last point.
-void AppendArc(CFeatureLine& line, const SEllipse& ellipse, double start, double sweep,
-               double chord)
-{
-    const int segments = SegmentsOf(std::max(ellipse.radius.x, ellipse.radius.y), sweep, chord);
-    for (int i = 0; i < segments; ++i) {
-        line.push_back(ellipse.At(start + sweep * i / segments));
-    }
+    return {{(frame.left + frame.right) / 2.0, (frame.bottom + frame.top) / 2.0, 0.0},
+            {(frame.right - frame.left) / 2.0, 0.0, 0.0},
+            {0.0, (frame.top - frame.bottom) / 2.0, 0.0}};
 }
 
 } // namespace
 
-CFeatureLine MifArcLine(const CArcMIF& arc, double chord)
+CFeatureLine MifArcLine(const CArcMIF& arc, CChords& chords)
 {
     double sweep = std::fmod(arc.endAngle - arc.startAngle, 2.0 * kPi);
     sweep += sweep <= 0.0 ? 2.0 * kPi : 0.0;
-    const SEllipse ellipse(SFrame(arc.corner1, arc.corner2));
-    CFeatureLine line;
-    AppendArc(line, ellipse, arc.startAngle, sweep, chord);
-    line.push_back(ellipse.At(arc.startAngle + sweep));
-    return line;
+    return chords.EllipseArc(EllipseIn(SFrame(arc.corner1, arc.corner2)), arc.startAngle, sweep);
 }
 
-CFeatureLine MifEllipseRing(const CRectMIF& ellipse, double chord)
+CFeatureLine MifEllipseRing(const CRectMIF& ellipse, CChords& chords)
 {
-    CFeatureLine ring;
-    AppendArc(ring, SEllipse(SFrame(ellipse.corner1, ellipse.corner2)), 0.0, 2.0 * kPi, chord);
+    CFeatureLine ring =
+        chords.EllipseArc(EllipseIn(SFrame(ellipse.corner1, ellipse.corner2)), 0.0, 2.0 * kPi);
+    ring.pop_back();
     return ring;
 }
 
@@ -100,7 +63,7 @@ CFeatureLine MifRectRing(const CPoint2D& corner1, const CPoint2D& corner2)
 
 // A file tells the diameter of the corners' rounding; the library hands it on times pi / 180, like an
 // angle.
-CFeatureLine MifRoundRectRing(const CRoundRectMIF& rect, double chord)
+CFeatureLine MifRoundRectRing(const CRoundRectMIF& rect, CChords& chords)
 {
     const SFrame frame(rect.corner1, rect.corner2);
     const double told = rect.radius * 180.0 / kPi / 2.0;
@@ -109,18 +72,16 @@ CFeatureLine MifRoundRectRing(const CRoundRectMIF& rect, double chord)
     if (!(radius > 0.0)) {
         return MifRectRing(rect.corner1, rect.corner2);
     }
-    const CPoint2D corners[] = {{frame.right - radius, frame.bottom + radius},
-                                {frame.right - radius, frame.top - radius},
-                                {frame.left + radius, frame.top - radius},
-                                {frame.left + radius, frame.bottom + radius}};
+    const VelorExchange::CPoint3D centres[] = {{frame.right - radius, frame.bottom + radius, 0.0},
+                                               {frame.right - radius, frame.top - radius, 0.0},
+                                               {frame.left + radius, frame.top - radius, 0.0},
+                                               {frame.left + radius, frame.bottom + radius, 0.0}};
     CFeatureLine ring;
     double start = -kPi / 2.0;
-    for (const CPoint2D& corner : corners) {
-        const SEllipse circle(
-            SFrame({corner.x - radius, corner.y - radius}, {corner.x + radius, corner.y + radius}));
-        AppendArc(ring, circle, start, kPi / 2.0, chord);
+    for (const auto& centre : centres) {
+        const CFeatureLine corner = chords.Arc(centre, radius, start, kPi / 2.0);
+        ring.insert(ring.end(), corner.begin(), corner.end());
         start += kPi / 2.0;
-        ring.push_back(circle.At(start));
     }
     return ring;
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "tools/velorx/features/Chords.h"
 #include "tools/velorx/features/Feature.h"
 #include "VelorExchange/mif/Arc.h"
 #include "VelorExchange/mif/Rect.h"
@@ -8,12 +9,12 @@
 
 namespace velorx {
 
-/// The shapes of a table as chains of straight segments, which are off by no more than `chord` (file
-/// units, above 0). Rings do not end with their first vertex and run counter-clockwise.
-CFeatureLine MifArcLine(const VelorExchange::mif::CArcMIF& arc, double chord);
-CFeatureLine MifEllipseRing(const VelorExchange::mif::CRectMIF& ellipse, double chord);
+// The shapes of a table as chains of straight segments. Rings do not end with their first vertex and run
+// counter-clockwise. Empty if an angle is no number.
+CFeatureLine MifArcLine(const VelorExchange::mif::CArcMIF& arc, CChords& chords);
+CFeatureLine MifEllipseRing(const VelorExchange::mif::CRectMIF& ellipse, CChords& chords);
 CFeatureLine MifRectRing(const VelorExchange::CPoint2D& corner1,
                          const VelorExchange::CPoint2D& corner2);
-CFeatureLine MifRoundRectRing(const VelorExchange::mif::CRoundRectMIF& rect, double chord);
+CFeatureLine MifRoundRectRing(const VelorExchange::mif::CRoundRectMIF& rect, CChords& chords);
 
 } // namespace velorx

@@ -140,19 +140,4 @@ std::vector<SRingNest> NestRings(const std::vector<CFeatureLine>& rings)
     return nests;
 }
 
-void SortOutermostFirst(std::vector<CFeatureLine>& rings)
-{
-    const std::vector<SRingNest> nests = NestRings(rings);
-    std::vector<std::size_t> order = Order(rings.size());
-    std::stable_sort(order.begin(), order.end(), [&nests](std::size_t a, std::size_t b) {
-        return nests[a].depth < nests[b].depth;
-    });
-    std::vector<CFeatureLine> sorted;
-    sorted.reserve(rings.size());
-    for (const std::size_t i : order) {
-        sorted.push_back(std::move(rings[i]));
-    }
-    rings = std::move(sorted);
-}
-
 } // namespace velorx

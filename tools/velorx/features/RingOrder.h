@@ -11,7 +11,7 @@ namespace velorx {
 void DropRepeats(CFeatureLine& ring);
 
 /// Puts the rings first that lie in no other, behind them those that lie in one, and so on, otherwise in
-/// their order. How deep a ring lies is told by its first vertex.
+/// their order.
 void PutOutermostFirst(std::vector<CFeatureLine>& rings);
 
 } // namespace velorx
