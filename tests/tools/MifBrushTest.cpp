@@ -23,7 +23,7 @@ SFeatureFill PatternFill(const char* name, double degrees = 0.0, bool isDouble =
 
 int PatternOf(const SFeatureFill& fill)
 {
-    return BrushOfFill(fill, {}).brush.pattern;
+    return BrushOfFill(fill).brush.pattern;
 }
 
 } // namespace
@@ -41,9 +41,7 @@ TEST(MifBrush, EveryBrushComesBackAsItWas)
     for (int pattern = 1; pattern <= 180; ++pattern) {
         const VelorExchange::mif::CBrushMIF brush = {pattern, pattern < 3 ? 0xFFFFFFU : 0x0000FFU,
                                                      0x123456};
-        SFeatureStroke stroke;
-        stroke.color = 0x123456;
-        const SMifBrush back = BrushOfFill(FillOfBrush(brush), stroke);
+        const SMifBrush back = BrushOfFill(FillOfBrush(brush));
         EXPECT_EQ(back.brush.pattern, brush.pattern);
         EXPECT_EQ(back.brush.foreColor, brush.foreColor);
         EXPECT_EQ(back.brush.backColor, brush.backColor);
@@ -86,7 +84,7 @@ TEST(MifBrush, PatternsOfDrawingsBecomeTheNearest)
     EXPECT_EQ(PatternOf(PatternFill("ANSI37")), 8);
     EXPECT_EQ(PatternOf(PatternFill("net")), 7);
     EXPECT_EQ(PatternOf(PatternFill("LINE", 180)), 3);
-    EXPECT_TRUE(BrushOfFill(PatternFill("ANSI31"), {}).isNearPattern);
+    EXPECT_TRUE(BrushOfFill(PatternFill("ANSI31")).isNearPattern);
 }
 
 TEST(MifBrush, LinesOfAPatternTellMoreThanItsName)
@@ -107,15 +105,6 @@ TEST(MifBrush, AnglesThatAreNoNumbersDoNoHarm)
     fill.lines.resize(1);
     fill.lines[0].angle = HUGE_VAL;
     EXPECT_EQ(PatternOf(fill), 3);
-}
-
-TEST(MifBrush, WithoutAFillItKeepsTheColourOfTheOutline)
-{
-    SFeatureStroke stroke;
-    stroke.color = 0x0000FF;
-    const SMifBrush brush = BrushOfFill({}, stroke);
-    EXPECT_EQ(brush.brush.pattern, 1);
-    EXPECT_EQ(brush.brush.foreColor, 0x0000FFU);
 }
 
 } // namespace velorx::test

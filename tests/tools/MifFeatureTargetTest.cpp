@@ -389,33 +389,56 @@ TEST_F(MifFeatureTarget, AreaIsARegion)
     EXPECT_TRUE(Reports("Nothing was lost or changed"));
 }
 
-TEST_F(MifFeatureTarget, HolesAreJoinedByACut)
+TEST_F(MifFeatureTarget, OutlineOfAnAreaHasItsPen)
 {
     auto area = InLayer<SAreaFeature>("out");
-    area.rings = {Square(0, 0, 10), Square(2, 2, 2)};
-    area.stroke.isVisible = false;
-    area.fill.kind = EFeatureFill::Solid;
+    area.rings = {Square(0, 0, 10)};
+    area.stroke.color = 0x0000FF;
+    area.stroke.width = 25.4 / 72;
     MakePair().Take(area);
     target->Finish();
-    EXPECT_TRUE(Holds("out.mif", "REGION 1\n10\n"));
-    EXPECT_EQ(ReadBack().areas.at(0).rings.at(0).size(), 10U);
-    EXPECT_TRUE(Reports("1  holes are joined to their areas by a cut")) << Report();
+    EXPECT_TRUE(Holds("out.mif", "PEN (20, 2, 16711680)\nBRUSH (1, 0, 16777215)\n"));
+    const CFeatureRecorder& back = ReadBack();
+    EXPECT_TRUE(back.areas.at(0).stroke.isVisible);
+    EXPECT_EQ(back.areas[0].stroke.color, 0x0000FFU);
+    EXPECT_EQ(back.areas[0].fill.kind, EFeatureFill::None);
+    EXPECT_TRUE(Reports("Nothing was lost or changed"));
 }
 
-TEST_F(MifFeatureTarget, PartsOfAnAreaAreRegionsWithItsAttributes)
+TEST_F(MifFeatureTarget, HolesAndPartsAreRingsOfOneRegion)
 {
     auto area = InLayer<SAreaFeature>("out");
     area.rings = {Square(0, 0, 10), Square(20, 0, 5), Square(2, 2, 6), Square(4, 4, 1)};
     area.fill.kind = EFeatureFill::Solid;
     area.stroke.isVisible = false;
     area.attributes = Attributes({{"A", 7}});
-    tally.Read("X");
-    HandOn(area, MakePair(), tally);
+    MakePair().Take(area);
+    target->Take(Point("out"));
     target->Finish();
-    EXPECT_EQ(File("out.mid"), "7\n7\n7\n");
-    EXPECT_EQ(ReadBack().areas.size(), 3U);
-    EXPECT_TRUE(Reports("3  parts of areas became regions")) << Report();
-    EXPECT_TRUE(Reports("3  Region"));
+    EXPECT_TRUE(Holds("out.mif", "REGION 4\n4\n0.00 0.00\n"));
+    EXPECT_TRUE(Holds("out.mif", "\n4\n20.00 0.00\n"));
+    EXPECT_EQ(File("out.mid"), "7\n\n");
+    const CFeatureRecorder& back = ReadBack();
+    ASSERT_EQ(back.areas.size(), 1U);
+    EXPECT_EQ(back.areas[0].rings.size(), 4U);
+    EXPECT_EQ(back.points.size(), 1U);
+    EXPECT_TRUE(Reports("Nothing was lost or changed")) << Report();
+}
+
+TEST_F(MifFeatureTarget, DetailsGoToTheObjectsOfTheirTable)
+{
+    MakeFolder();
+    for (const char* layer : {"A", "B", "A"}) {
+        auto area = InLayer<SAreaFeature>(layer);
+        area.rings = {Square(0, 0, 10)};
+        area.stroke.color = layer[0] == 'A' ? 0x0000FF : 0x00FF00;
+        target->Take(Point(layer));
+        target->Take(area);
+    }
+    target->Finish();
+    EXPECT_EQ(ReadBack("tables/A.mif").areas.at(0).stroke.color, 0x0000FFU);
+    EXPECT_EQ(ReadBack("tables/A.mif").areas.at(1).stroke.color, 0x0000FFU);
+    EXPECT_EQ(ReadBack("tables/B.mif").areas.at(0).stroke.color, 0x00FF00U);
 }
 
 TEST_F(MifFeatureTarget, WhatAreasLoseIsListed)
@@ -424,27 +447,13 @@ TEST_F(MifFeatureTarget, WhatAreasLoseIsListed)
     area.rings = {{{0, 0, 0}, {1, 1, 0}}};
     EXPECT_EQ(MakePair().Take(area), nullptr);
     area.rings = {Square(0, 0, 10)};
-    target->Take(area);
     area.fill.kind = EFeatureFill::Pattern;
+    area.stroke.planWidth = 1;
     target->Take(area);
     target->Finish();
     EXPECT_TRUE(Reports("1  areas of fewer than three vertices")) << Report();
-    EXPECT_TRUE(Reports("1  areas without a fill lost their outlines too"));
-    EXPECT_TRUE(Reports("1  areas lost their outlines"));
     EXPECT_TRUE(Reports("1  hatch patterns became the nearest pattern"));
-}
-
-TEST_F(MifFeatureTarget, AreaWithoutFillComesBackWithItsOutline)
-{
-    auto area = InLayer<SAreaFeature>("out");
-    area.rings = {Square(0, 0, 10)};
-    area.stroke.color = 0x0000FF;
-    MakePair().Take(area);
-    target->Finish();
-    const CFeatureRecorder& back = ReadBack();
-    EXPECT_TRUE(back.areas.at(0).stroke.isVisible);
-    EXPECT_EQ(back.areas[0].stroke.color, 0x0000FFU);
-    EXPECT_EQ(back.areas[0].fill.kind, EFeatureFill::None);
+    EXPECT_TRUE(Reports("1  widths of wide polylines"));
 }
 
 TEST_F(MifFeatureTarget, TextsKeepPlaceSizeAndFont)
@@ -469,13 +478,32 @@ TEST_F(MifFeatureTarget, TextsKeepPlaceSizeAndFont)
     EXPECT_TRUE(Reports("Nothing was lost or changed"));
 }
 
+TEST_F(MifFeatureTarget, TextsKeepTheirAlignment)
+{
+    auto text = InLayer<STextFeature>("out");
+    text.text = "Map";
+    text.position = {10, 20, 0};
+    text.height = 2;
+    text.align = EFeatureAlign::Right;
+    MakePair().Take(text);
+    text.align = EFeatureAlign::Centre;
+    target->Take(text);
+    target->Finish();
+    EXPECT_TRUE(Holds("out.mif", "FONT (\"Arial\", 0, 0, 0)\nJustify Right\n"));
+    const CFeatureRecorder& back = ReadBack();
+    EXPECT_EQ(back.texts.at(0).align, EFeatureAlign::Right);
+    EXPECT_NEAR(back.texts[0].position.x, 10, 0.01);
+    EXPECT_EQ(back.texts.at(1).align, EFeatureAlign::Centre);
+    EXPECT_NEAR(back.texts[1].position.x, 10, 0.01);
+    EXPECT_TRUE(Reports("Nothing was lost or changed"));
+}
+
 TEST_F(MifFeatureTarget, WhatTextsLoseIsListed)
 {
     auto text = InLayer<STextFeature>("out");
     text.height = 1;
     EXPECT_EQ(MakePair().Take(text), nullptr);
     text.text = QString::fromUtf8("C:\\new 街");
-    text.align = EFeatureAlign::Right;
     text.slant = 0.1;
     text.columnWidth = 1;
     target->Take(text);
@@ -483,9 +511,9 @@ TEST_F(MifFeatureTarget, WhatTextsLoseIsListed)
     EXPECT_EQ(target->Take(text), nullptr);
     target->Finish();
     for (const char* loss :
-         {"1  texts without letters", "1  texts that are not aligned", "1  widths and slants",
-          "1  texts that are broken", "1  texts with the characters \\n",
-          "1  texts have letters that the code page lacks", "1  texts with an angle"})
+         {"1  texts without letters", "1  widths and slants", "1  texts that are broken",
+          "1  texts with the characters \\n", "1  texts have letters that the code page lacks",
+          "1  texts with an angle"})
     {
         EXPECT_TRUE(Reports(loss)) << loss << Report();
     }

@@ -40,7 +40,7 @@ protected:
     }
 
     CTemporaryFolder folder;
-    SMifTableChanges nothing{[](const QString&) { return QString(); }, false, QString()};
+    SMifTableChanges nothing{[](const QString&) { return QString(); }, false, QString(), {}};
 };
 
 } // namespace
@@ -86,6 +86,31 @@ TEST_F(MifTableFiles, OnlyColumnTakenOutLeavesTheLibrarysEmptyOne)
     Put(changes);
     EXPECT_EQ(Table(), std::string(kHeader) + "Columns 1\nTEXT CHAR(80)\n" + kBody);
     EXPECT_EQ(Rows(), "\n\n");
+}
+
+TEST_F(MifTableFiles, DetailsGoIntoTheObjects)
+{
+    const std::string region = "REGION 1\n3\n0 0\n1 0\n1 1\nPEN (1, 1, 0)\nBRUSH (2, 0, 0)\n";
+    std::string regions;
+    for (int i = 0; i < 50'000; ++i) {
+        regions += region; // more than a block of the copying
+    }
+    folder.Write("FROM.MIF", kHeader + std::string("Columns 1\nA INTEGER\nDATA\n\n") + regions);
+    folder.Write("FROM.MID", "");
+    SMifTableChanges changes = nothing;
+    for (const qint64 object : {25'000, 49'999}) {
+        SMifDetail detail;
+        detail.object = object;
+        detail.hasPen = true;
+        detail.pen.pattern = 7;
+        changes.details.push_back(detail);
+    }
+    Put(changes);
+    std::string expected = regions;
+    for (const std::size_t object : {49'999, 25'000}) {
+        expected.replace(object * region.size() + region.find("(1, 1, 0)"), 9, "(1, 7, 0)");
+    }
+    EXPECT_TRUE(Table().substr(Table().size() - expected.size()) == expected);
 }
 
 TEST_F(MifTableFiles, WhatIsReplacedKeepsItsRights)

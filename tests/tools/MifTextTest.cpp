@@ -154,6 +154,19 @@ TEST(MifText, WhatIsWrittenIsReadBack)
     }
 }
 
+TEST(MifText, AlignedTextsComeBackInTheirPlace)
+{
+    for (const EFeatureAlign align : {EFeatureAlign::Centre, EFeatureAlign::Right}) {
+        STextFeature feature = Feature("Map");
+        feature.rotation = 0.5;
+        feature.align = align;
+        const STextFeature back = Read(Write(feature));
+        EXPECT_EQ(back.align, align);
+        EXPECT_NEAR(back.position.x, 10, 1e-9);
+        EXPECT_NEAR(back.position.y, 20, 1e-9);
+    }
+}
+
 TEST(MifText, OtherAlignmentsMoveTheRectangle)
 {
     STextFeature feature = Feature("four");
@@ -183,14 +196,12 @@ TEST(MifText, TellsWhatATableCannotHold)
 {
     SMifTextLosses losses;
     MifTextOf(Feature("Map"), losses);
-    EXPECT_FALSE(losses.hasAlignment || losses.hasShape || losses.hasColumn
-                 || losses.hasBackslashN);
+    EXPECT_FALSE(losses.hasShape || losses.hasColumn || losses.hasBackslashN);
     STextFeature feature = Feature("C:\\new");
-    feature.align = EFeatureAlign::Centre;
     feature.slant = 0.2;
     feature.columnWidth = 5.0;
     MifTextOf(feature, losses);
-    EXPECT_TRUE(losses.hasAlignment && losses.hasShape && losses.hasColumn && losses.hasBackslashN);
+    EXPECT_TRUE(losses.hasShape && losses.hasColumn && losses.hasBackslashN);
 }
 
 } // namespace velorx::test

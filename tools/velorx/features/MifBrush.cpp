@@ -147,11 +147,11 @@ SFeatureFill FillOfBrush(const CBrushMIF& brush)
     return fill;
 }
 
-SMifBrush BrushOfFill(const SFeatureFill& fill, const SFeatureStroke& stroke)
+SMifBrush BrushOfFill(const SFeatureFill& fill)
 {
     SMifBrush result;
     if (fill.kind == EFeatureFill::None) {
-        result.brush = {kNoFill, kWhite, stroke.color};
+        result.brush = {kNoFill, kWhite, fill.color};
     } else if (fill.kind == EFeatureFill::Solid) {
         result.brush = {kSolid, kWhite, fill.color};
     } else {

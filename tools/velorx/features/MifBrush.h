@@ -21,8 +21,7 @@ struct SMifBrush
 };
 
 /// The brush that is most like a fill. Patterns that are called as `FillOfBrush` calls them become
-/// the pattern that they were. Without a fill, the brush has the colour of `stroke`: the library writes
-/// regions without a pen, and so the colour is not lost.
-SMifBrush BrushOfFill(const SFeatureFill& fill, const SFeatureStroke& stroke);
+/// the pattern that they were.
+SMifBrush BrushOfFill(const SFeatureFill& fill);
 
 } // namespace velorx

@@ -94,8 +94,8 @@ void CMifFeatureReader::CountPen(const CPenMIF& pen, const QString& layer)
     LoseIf(HasMarks(pen), "pen patterns of other marks than dashes became solid lines", layer);
 }
 
-// The library writes areas without a pen, so that one without a fill would show nothing: it has its
-// outline in the brush's colour, where the target of the stream puts it.
+// The library's own writer gives areas no pen. One without a fill too would be lost to the eye: it has
+// an outline in the brush's colour.
 void CMifFeatureReader::FillLook(SAreaFeature& area, const CPenMIF& pen, const CBrushMIF& brush)
 {
     area.fill = FillOfBrush(brush);

@@ -1,14 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "tools/velorx/features/MifFeatureTarget.h"
 
-#include "tools/velorx/features/AreaParts.h"
 #include "tools/velorx/features/MifAttributes.h"
 #include "tools/velorx/features/MifBrush.h"
 #include "tools/velorx/features/MifCodePage.h"
 #include "tools/velorx/features/MifPen.h"
 #include "tools/velorx/features/MifSymbol.h"
 #include "tools/velorx/features/MifText.h"
-#include "tools/velorx/features/RingBridge.h"
 #include "VelorExchange/foundation/FileError.h"
 
 #include <QDir>
@@ -73,10 +71,10 @@ void CMifFeatureTarget::TakeLayer(const SFeatureLayer& layer)
 
 // ---- What all features have ---------------------------------------------------------------------
 
-void CMifFeatureTarget::LoseIf(bool isLost, const char* what, const SFeature& feature, qint64 count)
+void CMifFeatureTarget::LoseIf(bool isLost, const char* what, const SFeature& feature)
 {
     if (isLost) {
-        tally.Lose(QLatin1String(what), feature.layer, count);
+        tally.Lose(QLatin1String(what), feature.layer);
     }
 }
 
@@ -127,7 +125,7 @@ const SMifRow& CMifFeatureTarget::RowOf(const SFeature& feature, STable& table)
 template <class TRecord>
 const char* CMifFeatureTarget::Write(const SFeature& feature, TRecord& record,
                                      bool (IMIFWriter::*add)(const TRecord&, const QString&),
-                                     const char* as)
+                                     const char* as, SMifDetail detail)
 {
     STable& table = TableOf(feature.layer);
     const SMifRow& attributes = RowOf(feature, table);
@@ -137,6 +135,11 @@ const char* CMifFeatureTarget::Write(const SFeature& feature, TRecord& record,
         failure.error = QFileDevice::OpenError;
         throw failure;
     }
+    if (detail.hasPen || detail.justify != 0 || !detail.rings.empty()) {
+        detail.object = table.objects;
+        table.details.push_back(std::move(detail));
+    }
+    ++table.objects;
     CountRowLosses(attributes, feature.layer);
     LoseIf(feature.is3D, "objects lost their heights", feature);
     layers.insert(feature.layer);
@@ -177,6 +180,15 @@ const char* CMifFeatureTarget::Take(const SPointFeature& point)
     return Write(point, record, &IMIFWriter::AddPoint, "Point");
 }
 
+CPenMIF CMifFeatureTarget::PenOf(const SFeature& feature, const SFeatureStroke& stroke)
+{
+    const SMifPen pen = PenOfStroke(stroke);
+    LoseIf(pen.isNearType, "line types became the nearest pattern of a pen", feature);
+    LoseIf(pen.isCut, "lines are wider than any pen", feature);
+    LoseIf(stroke.planWidth > 0.0, "widths of wide polylines", feature);
+    return pen.pen;
+}
+
 const char* CMifFeatureTarget::Take(const SLineFeature& line)
 {
     if (line.points.size() < kLeastLine) {
@@ -186,57 +198,13 @@ const char* CMifFeatureTarget::Take(const SLineFeature& line)
     if (!AreInReach(line, line.points)) {
         return nullptr;
     }
-    const SMifPen pen = PenOfStroke(line.stroke);
-    LoseIf(pen.isNearType, "line types became the nearest pattern of a pen", line);
-    LoseIf(pen.isCut, "lines are wider than any pen", line);
-    LoseIf(line.stroke.planWidth > 0.0, "widths of wide polylines", line);
     CPolylineMIF record;
     record.points = InPlan(line.points);
-    record.pen = pen.pen;
+    record.pen = PenOf(line, line.stroke);
     for (const CPoint2D& point : record.points) {
         extents.Add(point);
     }
     return Write(line, record, &IMIFWriter::AddPolyline, "Pline");
-}
-
-void CMifFeatureTarget::CountAreaLosses(const SAreaFeature& area)
-{
-    const bool isFilled = area.fill.kind != EFeatureFill::None;
-    LoseIf(area.stroke.isVisible && isFilled, "areas lost their outlines (the library writes none)",
-           area);
-    LoseIf(area.stroke.isVisible && !isFilled,
-           "areas without a fill lost their outlines too and show nothing", area);
-}
-
-// Each outline with its holes is a region of one ring, since the library writes no others.
-void CMifFeatureTarget::WriteParts(const SAreaFeature& area, const CBrushMIF& brush)
-{
-    qint64 joined = 0;
-    qint64 written = 0;
-    for (const SAreaPart& part : AreaParts(area.rings)) {
-        if (part.outline->size() < kLeastRing) {
-            continue;
-        }
-        std::vector<CFeatureLine> holes;
-        for (const CFeatureLine* hole : part.holes) {
-            if (hole->size() >= kLeastRing) {
-                holes.push_back(*hole);
-            }
-        }
-        joined += static_cast<qint64>(holes.size());
-        CRegionMIF record;
-        record.points = InPlan(JoinHoles(*part.outline, std::move(holes)));
-        record.brush = brush;
-        for (const CPoint2D& point : record.points) {
-            extents.Add(point);
-        }
-        Write(area, record, &IMIFWriter::AddRegion, "Region");
-        if (written++ > 0) {
-            tally.Wrote(area.kind, "Region"); // the caller counts the first
-        }
-    }
-    LoseIf(joined > 0, "holes are joined to their areas by a cut", area, joined);
-    LoseIf(written > 1, "parts of areas became regions of their own", area, written);
 }
 
 const char* CMifFeatureTarget::Take(const SAreaFeature& area)
@@ -251,11 +219,25 @@ const char* CMifFeatureTarget::Take(const SAreaFeature& area)
             return nullptr;
         }
     }
-    const SMifBrush brush = BrushOfFill(area.fill, area.stroke);
-    CountAreaLosses(area);
+    const SMifBrush brush = BrushOfFill(area.fill);
     LoseIf(brush.isNearPattern, "hatch patterns became the nearest pattern of a brush", area);
-    WriteParts(area, brush.brush);
-    return "Region";
+    CRegionMIF record;
+    record.brush = brush.brush;
+    SMifDetail detail;
+    detail.hasPen = area.stroke.isVisible;
+    detail.pen = detail.hasPen ? PenOf(area, area.stroke) : CPenMIF();
+    for (const CFeatureLine& ring : area.rings) {
+        const std::vector<CPoint2D> points = InPlan(ring);
+        record.points.insert(record.points.end(), points.begin(), points.end());
+        detail.rings.push_back(static_cast<qint64>(points.size()));
+    }
+    if (detail.rings.size() == 1) {
+        detail.rings.clear();
+    }
+    for (const CPoint2D& point : record.points) {
+        extents.Add(point);
+    }
+    return Write(area, record, &IMIFWriter::AddRegion, "Region", std::move(detail));
 }
 
 const char* CMifFeatureTarget::Take(const STextFeature& text)
@@ -272,7 +254,6 @@ const char* CMifFeatureTarget::Take(const STextFeature& text)
         LoseIf(!std::isfinite(text.rotation), "texts with an angle that is no number", text);
         return nullptr;
     }
-    LoseIf(losses.hasAlignment, "texts that are not aligned to the left are so now", text);
     LoseIf(losses.hasShape, "widths and slants of letters", text);
     LoseIf(losses.hasColumn, "texts that are broken at a width run on in one line", text);
     LoseIf(losses.hasBackslashN, "texts with the characters \\n show a line break", text);
@@ -281,7 +262,9 @@ const char* CMifFeatureTarget::Take(const STextFeature& text)
     LoseIf(!FitsCodePage(record.font.name), "fonts have letters that the code page lacks", text);
     extents.Add(record.corner1);
     extents.Add(record.corner2);
-    return Write(text, record, &IMIFWriter::AddText, "Text");
+    SMifDetail detail;
+    detail.justify = record.justify;
+    return Write(text, record, &IMIFWriter::AddText, "Text", std::move(detail));
 }
 
 const char* CMifFeatureTarget::Take(const SImageFeature& image)

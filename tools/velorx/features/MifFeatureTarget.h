@@ -4,6 +4,7 @@
 #include "tools/velorx/features/FeatureTally.h"
 #include "tools/velorx/features/IFeatureTarget.h"
 #include "tools/velorx/features/MifColumns.h"
+#include "tools/velorx/features/MifDetails.h"
 #include "tools/velorx/features/MifTableNames.h"
 #include "tools/velorx/formats/Extents.h"
 #include "VelorExchange/foundation/ExportLog.h"
@@ -49,6 +50,8 @@ private:
     {
         QString name; ///< Of the pair, without an ending.
         CMifColumns columns;
+        std::vector<SMifDetail> details;
+        qint64 objects = 0;
     };
 
     STable& TableOf(const QString& layer);
@@ -56,11 +59,10 @@ private:
     template <class TRecord>
     const char* Write(const SFeature& feature, TRecord& record,
                       bool (VelorExchange::mif::IMIFWriter::*add)(const TRecord&, const QString&),
-                      const char* as);
-    void WriteParts(const SAreaFeature& area, const VelorExchange::mif::CBrushMIF& brush);
+                      const char* as, SMifDetail detail = {});
     bool AreInReach(const SFeature& feature, const CFeatureLine& points);
-    void LoseIf(bool isLost, const char* what, const SFeature& feature, qint64 count = 1);
-    void CountAreaLosses(const SAreaFeature& area);
+    void LoseIf(bool isLost, const char* what, const SFeature& feature);
+    VelorExchange::mif::CPenMIF PenOf(const SFeature& feature, const SFeatureStroke& stroke);
     void CountRowLosses(const SMifRow& row, const QString& layer);
     void RemarkOnColumns(STable& table);
     void RemarkOnLayers();

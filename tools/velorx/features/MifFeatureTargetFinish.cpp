@@ -89,6 +89,7 @@ void CMifFeatureTarget::PutTables(const QString& folder)
         const SMifTablePaths from = {written + QStringLiteral(".MIF"),
                                      written + QStringLiteral(".MID")};
         SMifTableChanges changes;
+        changes.details = std::move(table->details);
         changes.typeOf = [&table](const QString& column) { return table->columns.TypeOf(column); };
         if (isFolder) {
             const QString target =

@@ -5,6 +5,8 @@
 
 #include <QFile>
 
+#include <algorithm>
+
 namespace velorx {
 
 using VelorExchange::FileError;
@@ -93,6 +95,37 @@ QByteArray ChangedHeader(QFile& from, const SMifTableChanges& changes)
     return header;
 }
 
+// Blocks of whole lines; a line that is longer than a block makes a longer one.
+QByteArray NextLines(QFile& from)
+{
+    QByteArray block = from.read(kBlock);
+    if (!block.isEmpty() && !block.endsWith('\n')) {
+        block += from.readLine();
+    }
+    return block;
+}
+
+void CopyObjects(QFile& from, QFile& to, const std::vector<SMifDetail>& details)
+{
+    CMifDetailWriter writer(details);
+    QByteArray out;
+    for (QByteArray block = NextLines(from); !block.isEmpty(); block = NextLines(from)) {
+        if (writer.IsDone()) {
+            Write(to, block);
+            continue;
+        }
+        out.clear();
+        const char* const end = block.constData() + block.size();
+        for (const char* line = block.constData(); line != end;) {
+            const char* feed = std::find(line, end, '\n');
+            const char* next = feed == end ? end : feed + 1;
+            writer.Take(line, next, out);
+            line = next;
+        }
+        Write(to, out);
+    }
+}
+
 void CopyTable(const QString& fromName, const QString& toName, const SMifTableChanges& changes)
 {
     QFile from(fromName);
@@ -100,7 +133,7 @@ void CopyTable(const QString& fromName, const QString& toName, const SMifTableCh
     const QByteArray header = ChangedHeader(from, changes);
     const qint64 length = from.pos();
     from.seek(0);
-    if (from.read(length) == header) {
+    if (from.read(length) == header && changes.details.empty()) {
         from.close();
         Move(fromName, toName);
         return;
@@ -108,9 +141,7 @@ void CopyTable(const QString& fromName, const QString& toName, const SMifTableCh
     QFile to(toName);
     Open(to, QIODevice::WriteOnly);
     Write(to, header);
-    for (QByteArray block = from.read(kBlock); !block.isEmpty(); block = from.read(kBlock)) {
-        Write(to, block);
-    }
+    CopyObjects(from, to, changes.details);
     Flush(to);
     if (from.error() != QFileDevice::NoError) {
         throw FileError(from);

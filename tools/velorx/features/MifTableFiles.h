@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "tools/velorx/features/MifDetails.h"
+
 #include <QString>
 
 #include <functional>
+#include <vector>
 
 namespace velorx {
 
@@ -22,6 +25,7 @@ struct SMifTableChanges
     bool dropsFirst =
         false; ///< Without the first column, which is a text, `firstValue` in every row.
     QString firstValue;
+    std::vector<SMifDetail> details; ///< Of its objects, in their order.
 };
 
 /// Puts a pair that the library wrote to another place, with changes. Files that lie there already are

@@ -140,7 +140,6 @@ SMifTextExtras FillFromMifText(const CTextMIF& text, STextFeature& feature)
 
 CTextMIF MifTextOf(const STextFeature& feature, SMifTextLosses& losses)
 {
-    losses.hasAlignment = feature.align != EFeatureAlign::Left;
     losses.hasShape = feature.widthFactor != 1.0 || feature.slant != 0.0;
     losses.hasColumn = feature.columnWidth > 0.0;
     losses.hasBackslashN = feature.text.contains(QLatin1String("\\n"));
@@ -154,6 +153,7 @@ CTextMIF MifTextOf(const STextFeature& feature, SMifTextLosses& losses)
                     feature.position.y + box.left * sine + box.bottom * cosine};
     text.corner2 = {text.corner1.x + box.width, text.corner1.y + box.height};
     text.angle = feature.rotation;
+    text.justify = static_cast<int>(feature.align);
     if (!feature.font.isEmpty()) {
         text.font.name = feature.font;
     }

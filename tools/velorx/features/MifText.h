@@ -27,14 +27,13 @@ constexpr double kMifCapitals = 0.69;
 /// What a table cannot tell of a text.
 struct SMifTextLosses
 {
-    bool hasAlignment = false; ///< It begins where it would begin if letters had a common width.
     bool hasShape = false; ///< Width or slant of its letters.
     bool hasColumn = false; ///< It was broken into lines at a width.
     bool hasBackslashN = false; ///< It holds the two characters that stand for a line break.
 };
 
-/// A text for a table. The library writes no alignment, so the rectangle's corner is where the first
-/// letter stands; for texts that begin at their position it is that position.
+/// A text for a table. Its rectangle has the text's position in the lower left corner, or in the middle of
+/// its lower side or at the end, as `justify` tells. How wide the letters are is a guess.
 VelorExchange::mif::CTextMIF MifTextOf(const STextFeature& feature, SMifTextLosses& losses);
 
 } // namespace velorx
