@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: MIT
-"""Says which tests named in docs/formats/*.md do not exist. Exit code 1 if there is one."""
+"""Says which tests named in docs/formats/*.md and docs/check.md do not exist. Exit code 1 if there is one."""
 import pathlib
 import re
 import sys
@@ -18,7 +18,7 @@ for path in [*ROOT.glob("tests/**/*.cpp"), *ROOT.glob("tests/**/CMakeLists.txt")
 suites = {suite for suite, _ in known}
 missing = 0
 named = 0
-for page in sorted(ROOT.glob("docs/formats/*.md")):
+for page in [*sorted(ROOT.glob("docs/formats/*.md")), ROOT / "docs/check.md"]:
     for suite, name in NAMED.findall(page.read_text(encoding="utf-8")):
         if suite not in suites and not suite.endswith(("Test", "Parser", "Section")):
             continue  # a file or a member, not a test

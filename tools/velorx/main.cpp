@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // velorx, the command line host of VelorExchange: parses the command line and runs one command.
+#include "tools/velorx/check/CheckCommand.h"
 #include "tools/velorx/convert/ConvertCommand.h"
 #include "tools/velorx/HostCodec.h"
 #include "tools/velorx/info/InfoCommand.h"
@@ -17,8 +18,9 @@ namespace {
 
 using velorx::ICommand;
 
-constexpr char kFooter[] = "Exit codes: 0 done, 1 a file could not be read or written whole,\n"
-                           "2 wrong usage.";
+constexpr char kFooter[] =
+    "Exit codes: 0 done, 1 a file could not be read or written whole, or has\n"
+    "faults, 2 wrong usage.";
 
 std::string CheckCodePage(const std::string& name)
 {
@@ -47,6 +49,7 @@ CCommands AddCommands(CLI::App& app)
     CCommands commands;
     commands.emplace_back(std::make_unique<velorx::CInfoCommand>(), nullptr);
     commands.emplace_back(std::make_unique<velorx::CConvertCommand>(), nullptr);
+    commands.emplace_back(std::make_unique<velorx::CCheckCommand>(), nullptr);
     commands.emplace_back(std::make_unique<velorx::CRenderCommand>(), nullptr);
     for (auto& [command, parser] : commands) {
         parser = command->AddTo(app);
