@@ -75,6 +75,17 @@ TEST(DxfLosses, SectionsBehindTheObjectsAreRead)
         "");
 }
 
+TEST(DxfLosses, ObjectsAheadOfASectionThatIsNotReadAreRead)
+{
+    const std::string image =
+        "0 IMAGE\n8 A\n11 1\n22 1\n13 9\n23 9\n340 F1\n71 1\n91 2\n14 0\n24 0\n"
+        "14 8\n24 8\n";
+    EXPECT_EQ(LossesOf(Drawing(Section("ENTITIES", image)
+                               + Section("OBJECTS", "0 IMAGEDEF\n5 F1\n1 plan.png\n")
+                               + Section("ACDSDATA", "70 2\n"))),
+              "1 sections of other kinds, left out\n");
+}
+
 // ---- Spaces and blocks -------------------------------------------------------------------------
 
 TEST(DxfLosses, ElementsOfPaperSpaceAreLeftOut)

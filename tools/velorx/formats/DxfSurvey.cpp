@@ -29,6 +29,8 @@ constexpr std::string_view kParts[] = {"SEQEND", "ENDBLK", "ENDSEC", "SECTION"};
 constexpr std::string_view kSections[] = {"HEADER", "CLASSES",  "TABLES",
                                           "BLOCKS", "ENTITIES", "OBJECTS"};
 
+constexpr std::string_view kRead[] = {"HEADER", "TABLES", "BLOCKS", "ENTITIES"};
+
 // Behind these the order of groups counts.
 constexpr std::string_view kOrdered[] = {"LTYPE", "STYLE", "MLINESTYLE"};
 
@@ -102,7 +104,7 @@ void CDxfSurvey::TakeTag(int code, std::string_view value)
 void CDxfSurvey::BeginSection(std::string_view name)
 {
     section = Capitals(name);
-    areObjectsAhead = areObjectsAhead || areObjectsPassed;
+    areObjectsAhead = areObjectsAhead || (areObjectsPassed && IsAmong(kRead, section));
     areObjectsPassed = areObjectsPassed || section == "OBJECTS";
     if (!IsAmong(kSections, section)) {
         tally.Lose(EDxfLoss::OtherSections);

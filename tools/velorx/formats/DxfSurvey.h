@@ -67,7 +67,7 @@ public:
     /// The file that the block `name`, in any case, stands for; empty for a block of the drawing's own.
     QString OutsideFile(const QString& name) const;
 
-    /// Whether a section stands behind the objects, behind which the reader does not look.
+    /// Whether a section to be read stands behind the objects, behind which the reader does not look.
     bool AreObjectsAhead() const { return areObjectsAhead; }
 
     const CDxfAttDefs& AttDefs() const { return attDefs; }
