@@ -29,7 +29,12 @@ QImage Blank(const SPictureStyle& style)
 } // namespace
 
 CCanvas::CCanvas(const SPictureStyle& style, const QStringList& layers)
-    : image(Blank(style)), painter(&image), view(Plan(), image.size()), choice(layers),
+    : CCanvas(style, layers, Plan())
+{
+}
+
+CCanvas::CCanvas(const SPictureStyle& style, const QStringList& layers, const SPlanBox& plan)
+    : image(Blank(style)), painter(&image), view(plan, image.size()), choice(layers),
       sink(painter, view, style, choice, tally), paper(QColor::fromRgba(style.background))
 {
     painter.setRenderHint(QPainter::Antialiasing);

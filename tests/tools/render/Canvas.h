@@ -18,6 +18,9 @@ class CCanvas
 public:
     explicit CCanvas(const SPictureStyle& style = {}, const QStringList& layers = {});
 
+    /// The same, but it shows `plan`, a square.
+    CCanvas(const SPictureStyle& style, const QStringList& layers, const SPlanBox& plan);
+
     IFeatureSink& Sink() { return sink; }
 
     /// Whether the paper shows at a place of the plan.

@@ -148,6 +148,18 @@ TEST(HatchFamilies, PatternByNameTurnsWithTheFill)
     EXPECT_NEAR(std::abs(families[0].Gap()), 8, 1e-9);
 }
 
+TEST(HatchFamilies, BrushIsMeasuredOnPaper)
+{
+    SFeatureFill fill;
+    fill.pattern = QStringLiteral("MIF 3");
+    VelorExchange::dxf::CHatchLineDXF line;
+    line.offsetY = 1000;
+    fill.lines = {line};
+    const std::vector<SHatchFamily> families = HatchFamilies(fill, UnitView(), 100);
+    ASSERT_EQ(families.size(), 1U);
+    EXPECT_NEAR(std::abs(families[0].Gap()), 8, 1e-9);
+}
+
 TEST(HatchFamilies, SmallAreaGetsAFinerPattern)
 {
     SFeatureFill fill;

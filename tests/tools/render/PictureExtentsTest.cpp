@@ -117,6 +117,17 @@ TEST_F(PictureExtents, LeaveOutWhatIsNoNumber)
     ExpectBox(0, 0, 2, 3);
 }
 
+TEST_F(PictureExtents, LeaveEmptyBlocksOut)
+{
+    SPointFeature block;
+    block.kind = "INSERT";
+    block.layer = QStringLiteral("0");
+    block.position = {500, 500, 0};
+    extents.Take(block);
+    extents.Take(Line({{0, 0, 0}, {2, 3, 0}}));
+    ExpectBox(0, 0, 2, 3);
+}
+
 TEST_F(PictureExtents, LeaveEndlessLinesOut)
 {
     SLineFeature line = Line({{0, 0, 0}, {1e6, 1e6, 0}});

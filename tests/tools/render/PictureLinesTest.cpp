@@ -92,6 +92,23 @@ TEST(PictureLines, DashesLeaveGaps)
     EXPECT_TRUE(canvas.IsPaper(65, 50.5));
 }
 
+TEST(PictureLines, DashesOfAPenAreMeasuredOnPaper)
+{
+    SPlanBox wide;
+    wide.Add(0, 0);
+    wide.Add(96e6, 96e6);
+    CCanvas canvas({}, {}, wide);
+    SLineFeature line = Line({{0, 50.5e6, 0}, {96e6, 50.5e6, 0}});
+    auto pen = std::make_shared<SFeatureLineType>();
+    pen->name = QStringLiteral("MIF 12");
+    pen->dashes = {25.4 / 96 * 20, -25.4 / 96 * 10};
+    line.stroke.lineType = pen;
+    canvas.Sink().Take(line);
+    EXPECT_EQ(canvas.At(10e6, 50.5e6), kBlack);
+    EXPECT_TRUE(canvas.IsPaper(25e6, 50.5e6));
+    EXPECT_EQ(canvas.At(40e6, 50.5e6), kBlack);
+}
+
 TEST(PictureLines, InvisibleStrokeLeavesThePaper)
 {
     CCanvas canvas;

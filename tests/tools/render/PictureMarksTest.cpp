@@ -46,6 +46,17 @@ TEST(PictureMarks, PlainPointIsADot)
     EXPECT_EQ(canvas.CountInk(), canvas.CountInk(47, 47, 53, 53));
 }
 
+TEST(PictureMarks, EmptyBlockHasNoMark)
+{
+    CCanvas canvas;
+    SPointFeature block = Point(50, 50);
+    block.kind = "INSERT";
+    EXPECT_EQ(canvas.Sink().Take(block), nullptr);
+    EXPECT_EQ(canvas.CountInk(), 0);
+    EXPECT_EQ(canvas.Losses(),
+              QStringList(QStringLiteral("1 block references without anything to draw")));
+}
+
 TEST(PictureMarks, SymbolIsAsLargeAsItsPoints)
 {
     CCanvas canvas;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "tools/velorx/render/HatchFamily.h"
 
+#include "tools/velorx/features/MifNumbers.h"
 #include "tools/velorx/render/StandardPatterns.h"
 
 #include <algorithm>
@@ -95,7 +96,8 @@ std::vector<SHatchFamily> SourceFamilies(const std::vector<CHatchLineDXF>& lines
 std::vector<SHatchFamily> HatchFamilies(const SFeatureFill& fill, const CPictureView& view,
                                         double shorterExtent)
 {
-    if (!fill.lines.empty()) {
+    // A brush is measured on paper, whatever the unit of its file.
+    if (!fill.lines.empty() && MifNumber(fill.pattern) == 0) {
         std::vector<SHatchFamily> families = SourceFamilies(fill.lines, view, 1.0);
         double spread = 1.0;
         constexpr double kLeastSpread = 1.25;

@@ -2,6 +2,7 @@
 #include "tools/velorx/render/PictureExtents.h"
 
 #include "tools/velorx/render/ImageFrame.h"
+#include "tools/velorx/render/SymbolMark.h"
 #include "tools/velorx/render/TextLayout.h"
 
 #include <algorithm>
@@ -116,7 +117,7 @@ SPlanBox CPictureExtents::Box()
 
 const char* CPictureExtents::Take(const SPointFeature& point)
 {
-    if (IsDrawn(point)) {
+    if (IsDrawn(point) && !IsEmptyBlock(point)) {
         Add(BoxOf({point.position}));
     }
     return nullptr;

@@ -2,6 +2,8 @@
 #include "tools/velorx/render/PictureSink.h"
 
 #include "tools/velorx/features/FeatureTally.h"
+#include "tools/velorx/features/MifNumbers.h"
+#include "tools/velorx/features/MifPen.h"
 #include "tools/velorx/render/Clipping.h"
 #include "tools/velorx/render/Picture.h"
 #include "tools/velorx/render/StrokeLine.h"
@@ -90,12 +92,21 @@ QPen CPictureSink::PenFor(const SFeatureStroke& stroke) const
     return pen;
 }
 
+// Those of a pen are measured on paper, whatever the unit of its file.
+CDashes CPictureSink::DashesOf(const SFeatureStroke& stroke) const
+{
+    if (stroke.lineType == nullptr) {
+        return {};
+    }
+    const bool isPen = MifNumber(stroke.lineType->name) > 0;
+    return {stroke.lineType->dashes, isPen ? 1.0 / kMifPixel : view.Pixels(1.0)};
+}
+
 void CPictureSink::Stroke(const CPixelLine& points, const SFeatureStroke& stroke)
 {
     const QPen pen = PenFor(stroke);
     const double reach = pen.widthF() * 2;
-    const CDashes dashes =
-        stroke.lineType != nullptr ? CDashes(stroke.lineType->dashes, view.Pixels(1.0)) : CDashes();
+    const CDashes dashes = DashesOf(stroke);
     painter.setPen(pen);
     painter.setBrush(Qt::NoBrush);
     CPiecePainter pieces(painter);
@@ -112,6 +123,10 @@ const char* CPictureSink::Done(const char* as)
 const char* CPictureSink::Take(const SPointFeature& point)
 {
     const CPixelLine place = Map({point.position});
+    if (IsEmptyBlock(point)) {
+        tally.Lose(QStringLiteral("block references without anything to draw"), point.layer);
+        return nullptr;
+    }
     if (!IsAsked(point) || !IsInside(point, place)) {
         return nullptr;
     }

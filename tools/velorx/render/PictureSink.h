@@ -54,6 +54,7 @@ private:
     bool IsInside(const SFeature& feature, const CPixelLine& corners);
     CPixelLine Map(const CFeatureLine& points) const;
     QPen PenFor(const SFeatureStroke& stroke) const;
+    CDashes DashesOf(const SFeatureStroke& stroke) const;
     void Stroke(const CPixelLine& points, const SFeatureStroke& stroke);
     void Fill(const std::vector<CPixelLine>& rings, const SFeatureFill& fill);
     void Hatch(const std::vector<CPixelLine>& rings, const SFeatureFill& fill);

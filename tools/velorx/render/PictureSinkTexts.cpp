@@ -65,7 +65,7 @@ const char* CPictureSink::Take(const STextFeature& text)
 // The image itself is not loaded, so its name stands in its frame, where there is room for it.
 void CPictureSink::Label(const SImageFeature& image, const CPixelLine& ring)
 {
-    constexpr double kLetters = 9.0;
+    constexpr double kLetters = 7.0;
     constexpr double kRoom = 5.0; // heights of letters
     const QRectF bounds = BoundsOf(ring);
     STextFeature label;

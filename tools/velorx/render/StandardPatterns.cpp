@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "tools/velorx/render/StandardPatterns.h"
 
-#include <cstddef>
+#include "tools/velorx/features/MifNumbers.h"
+
+#include <string>
 #include <string_view>
 
 namespace velorx {
@@ -111,7 +113,6 @@ constexpr SBrush kBrushes[] = {
     {44, 47, EBrush::Crossed, 45, 10, 1.5},
 };
 
-constexpr std::string_view kBrushName = "MIF ";
 constexpr std::string_view kPlain = "ANSI31";
 
 CHatchLineDXF LineOf(const SRow& row)
@@ -170,13 +171,9 @@ std::vector<CHatchLineDXF> FindBrush(int number)
 
 std::vector<CHatchLineDXF> StandardPattern(const QString& name)
 {
-    const std::string key = name.trimmed().toUpper().toStdString();
-    std::vector<CHatchLineDXF> lines;
-    if (std::string_view(key).substr(0, kBrushName.size()) == kBrushName) {
-        lines = FindBrush(name.trimmed().mid(static_cast<int>(kBrushName.size())).toInt());
-    } else {
-        lines = FindRows(key);
-    }
+    const int brush = MifNumber(name);
+    std::vector<CHatchLineDXF> lines =
+        brush > 0 ? FindBrush(brush) : FindRows(name.trimmed().toUpper().toStdString());
     return lines.empty() ? FindRows(kPlain) : lines;
 }
 

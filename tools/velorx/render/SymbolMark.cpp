@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstring>
 
 namespace velorx {
 
@@ -117,6 +118,11 @@ double SizeOf(const SFeatureSymbol& symbol, EMark mark)
 }
 
 } // namespace
+
+bool IsEmptyBlock(const SPointFeature& point)
+{
+    return std::strcmp(point.kind, "INSERT") == 0;
+}
 
 SSymbolMark MarkFor(const SFeatureSymbol& symbol)
 {

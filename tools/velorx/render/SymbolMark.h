@@ -14,6 +14,9 @@ struct SSymbolMark
     bool isFilled = false;
 };
 
+/// Whether `point` stands for a block reference that draws nothing, which has no mark.
+bool IsEmptyBlock(const SPointFeature& point);
+
 /// A small mark for `symbol`: that of the standard set for the numbers that are drawn there, a dot for a
 /// plain point, a circle for every other. Signs of a font's own are not drawn.
 SSymbolMark MarkFor(const SFeatureSymbol& symbol);
