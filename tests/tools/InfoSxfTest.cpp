@@ -179,6 +179,14 @@ TEST_F(InfoSxf, TellsLayersWithoutTheZeroBehindThem)
               QStringList("a"));
 }
 
+TEST_F(InfoSxf, TellsLayersOfTheTextFormByTheirAttribute)
+{
+    const std::string file = Write(".DAT 2\n.OBJ 7 DOT\n1\n1 2\n.SEM 1\n32810 a b\n"
+                                   ".OBJ 0 DOT\n.SEG a_b\n1\n1 2\n.SEM 1\n32810 a b\n.END\n",
+                                   "map.txt");
+    EXPECT_EQ(Json(file).value("layers").toObject().keys(), QStringList("a b"));
+}
+
 // ---- Forms and names --------------------------------------------------------------------------
 
 TEST_F(InfoSxf, TellsTheFormByContentWhateverTheName)

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "tools/velorx/info/SxfSummary.h"
 
+#include "tools/velorx/formats/SxfCodes.h"
+
 #include <memory>
 
 namespace velorx {
@@ -17,9 +19,16 @@ void AddVertices(const CAbstractVertexHolder& holder, CExtents& extents)
     }
 }
 
-// The library's writer counts a zero behind the name.
-QString SxfLayerName(QString layer)
+// The attribute counts ahead of what the library tells, which of the text form is the last word of the
+// name. Its writer counts a zero behind the name.
+QString LayerOf(const CBaseObject& object)
 {
+    QString layer = object.layer;
+    for (const PnrSemantic& semantic : object.semantics) {
+        if (semantic.code == kSxfLayerCode && !semantic.value.toString().isEmpty()) {
+            layer = semantic.value.toString();
+        }
+    }
     while (layer.endsWith(QChar(QChar::Null))) {
         layer.chop(1);
     }
@@ -83,7 +92,7 @@ void CSxfSummary::Count(EKind kind, const CBaseObject& object)
         holder->Is2D() ? AddVertices<CVertexHolder2D>(*holder, extents)
                        : AddVertices<CVertexHolder3D>(*holder, extents);
     }
-    layers.Add(SxfLayerName(object.layer));
+    layers.Add(LayerOf(object));
     for (const PnrSemantic& semantic : object.semantics) {
         semantics.Add(semantic.code);
         semanticTypes.Add(semantic.dataType);
