@@ -81,7 +81,7 @@ TEST_F(ConvertSxf, MapBecomesATableAndComesBack)
     Convert(source, Path("map.mif"));
     const std::string mif = ReadFile(Path("map.mif"));
     for (const char* part :
-         {"\nREGION 1\n", "\nPLINE\n", "\nPOINT 80.000000 7.000000\n", "\nTEXT \"word\"\n"})
+         {"\nREGION 2\n", "\nPLINE\n", "\nPOINT 80.000000 7.000000\n", "\nTEXT \"word\"\n"})
     {
         EXPECT_NE(mif.find(part), std::string::npos) << part << '\n' << mif;
     }
