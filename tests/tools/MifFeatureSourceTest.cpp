@@ -112,7 +112,7 @@ TEST_F(MifFeatureSource, WhatLinesLoseIsListed)
     Read("Pline 1\n1 1\nPline 2\n1 1\n2 2\nPen (1,60,0)\nSmooth\n");
     EXPECT_EQ(sink.lines.size(), 1U);
     EXPECT_TRUE(Reports("1  lines of a single vertex or none"));
-    EXPECT_TRUE(Reports("1  pen patterns of other marks"));
+    EXPECT_TRUE(Reports("1  pen patterns that only tables have"));
     EXPECT_TRUE(Reports("1  smooth lines"));
 }
 
@@ -175,7 +175,7 @@ TEST_F(MifFeatureSource, WhatRegionsLoseIsListed)
     ASSERT_EQ(sink.areas.size(), 1U);
     EXPECT_EQ(sink.areas[0].rings.size(), 1U);
     EXPECT_TRUE(Reports("1  rings of fewer than three vertices")) << Report();
-    EXPECT_TRUE(Reports("1  brush patterns of dots"));
+    EXPECT_TRUE(Reports("1  brush patterns that only tables have"));
     EXPECT_TRUE(Reports("1  centres of areas"));
 }
 

@@ -40,7 +40,7 @@ CFeatureLine PointsOf(const std::vector<CPoint2D>& points)
 CFeatureLine RingOf(const std::vector<CPoint2D>& points)
 {
     CFeatureLine ring = PointsOf(points);
-    while (ring.size() > 1 && ring.front().x == ring.back().x && ring.front().y == ring.back().y) {
+    if (ring.size() > 1 && ring.front().x == ring.back().x && ring.front().y == ring.back().y) {
         ring.pop_back();
     }
     return ring;
@@ -91,7 +91,8 @@ void CMifFeatureReader::FillHead(SFeature& feature, const char* kind,
 
 void CMifFeatureReader::CountPen(const CPenMIF& pen, const QString& layer)
 {
-    LoseIf(HasMarks(pen), "pen patterns of other marks than dashes became solid lines", layer);
+    LoseIf(HasMarks(pen), "pen patterns that only tables have, known by their numbers alone",
+           layer);
 }
 
 // The library's own writer gives areas no pen. One without a fill too would be lost to the eye: it has
@@ -105,7 +106,8 @@ void CMifFeatureReader::FillLook(SAreaFeature& area, const CPenMIF& pen, const C
         area.stroke.color = brush.foreColor;
     }
     CountPen(pen, area.layer);
-    LoseIf(HasDots(brush), "brush patterns of dots and marks have a name alone", area.layer);
+    LoseIf(HasDots(brush), "brush patterns that only tables have, known by their numbers alone",
+           area.layer);
 }
 
 // ---- Objects ------------------------------------------------------------------------------------
