@@ -150,7 +150,7 @@ TEST(TargetPair, RowsThatExistAreInTheWay)
     folder.Write("a.mid", "old");
     CTemporaries temporaries;
     EXPECT_EQ(MakeTarget(ETargetKind::Pair, folder.path + "/a.mif", temporaries)->Begin(false),
-              "of the .mid beside it: it exists (--force replaces it)");
+              "the .mid beside it: it exists (--force replaces it)");
 }
 
 TEST(TargetPair, ComesBackWhereTheSecondFileFails)
@@ -218,7 +218,7 @@ TEST(TargetPairs, OneFileInTheWayKeepsAllFromTheirPlace)
         ASSERT_EQ(target->Begin(false), "");
         Fill(target->WorkPath() + "/a.mif", "new");
         Fill(target->WorkPath() + "/b.mif", "new");
-        EXPECT_EQ(target->Finish(), "of b.mif in it: it exists (--force replaces it)");
+        EXPECT_EQ(target->Finish(), "b.mif in it: it exists (--force replaces it)");
     }
     EXPECT_EQ(NamesIn(folder.path), Strings({"b.mif"}));
     EXPECT_EQ(ReadFile(folder.path + "/b.mif"), "old");

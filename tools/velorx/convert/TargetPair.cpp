@@ -51,7 +51,7 @@ std::string CTargetPair::Begin(bool mayReplace)
     std::string problem = FindPlace(name, mayReplace, table);
     if (problem.empty()) {
         problem = FindPlace(RowsBeside(name), mayReplace, rows);
-        problem = problem.empty() ? problem : "of the .mid beside it: " + problem;
+        problem = problem.empty() ? problem : "the .mid beside it: " + problem;
     }
     if (problem.empty()) {
         problem = temporaries.MakeFolderBeside(table.path, folder);

@@ -65,7 +65,7 @@ std::string CTargetPairs::MoveInto()
         STargetPlace place;
         const std::string problem = FindPlace(name + '/' + file, mayReplaceFiles, place);
         if (!problem.empty()) {
-            return "of " + file + " in it: " + problem;
+            return file + " in it: " + problem;
         }
         KeepRights(folder + '/' + file, place);
         moves.push_back({folder + '/' + file, place.path});

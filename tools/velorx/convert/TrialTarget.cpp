@@ -33,7 +33,7 @@ std::string CTrialTarget::FindFault(bool mayReplace) const
     std::string problem = FindPlace(name, mayReplace, place);
     if (problem.empty() && kind == ETargetKind::Pair) {
         problem = FindPlace(RowsBeside(name), mayReplace, place);
-        problem = problem.empty() ? problem : "of the .mid beside it: " + problem;
+        problem = problem.empty() ? problem : "the .mid beside it: " + problem;
     }
     return problem.empty() && !isInNewFolder ? FindFaultOfFolder(FolderOf(place.path)) : problem;
 }
