@@ -175,13 +175,14 @@ void CDxfSurvey::JudgeEntity()
     colours.Take(entity);
     texts.Take(entity);
     followers += FollowsLinesOfInsert(entity) ? 1 : 0;
+    const auto decode = [this](const std::string& bytes) { return Decoded(bytes); };
+    hiddenTags.Take(entity, decode);
     if (Is("HATCH")) {
         hatchPatterns.Finish(entity, Decoded(groups.Text(2)), tally);
     } else if (Is("MLINE")) {
         JudgeMLine();
     } else if (Is("ATTDEF")) {
-        attDefs.Add(
-            entity, [this](const std::string& bytes) { return Decoded(bytes); }, tally);
+        attDefs.Add(entity, decode, tally);
     }
 }
 

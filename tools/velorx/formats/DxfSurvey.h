@@ -5,6 +5,7 @@
 #include "tools/velorx/formats/DxfColourUse.h"
 #include "tools/velorx/formats/DxfGroups.h"
 #include "tools/velorx/formats/DxfHatchPatterns.h"
+#include "tools/velorx/formats/DxfHiddenTags.h"
 #include "tools/velorx/formats/DxfLineTypes.h"
 #include "tools/velorx/formats/DxfMLineStyle.h"
 #include "tools/velorx/formats/DxfShapeScan.h"
@@ -73,6 +74,7 @@ public:
     const CDxfAttDefs& AttDefs() const { return attDefs; }
     const CDxfColourUse& Colours() const { return colours; }
     const CDxfHatchPatterns& HatchPatterns() const { return hatchPatterns; }
+    const CDxfHiddenTags& HiddenTags() const { return hiddenTags; }
     const CDxfTextHabits& Texts() const { return texts; }
 
 private:
@@ -118,6 +120,7 @@ private:
     CDxfLineTypes lineTypes;
     CDxfHatchPatterns hatchPatterns;
     CDxfAttDefs attDefs;
+    CDxfHiddenTags hiddenTags;
     CDxfColourUse colours;
     CDxfTextHabits texts;
     QHash<QString, VelorExchange::dxf::CTextStyleDXF> textStyles; ///< By name without case.
