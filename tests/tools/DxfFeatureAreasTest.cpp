@@ -78,6 +78,25 @@ TEST(DxfFeatureAreas, HatchKeepsItsPattern)
     EXPECT_FALSE(read.areas[0].stroke.isVisible);
 }
 
+TEST(DxfFeatureAreas, LinesOfAPatternTurnAndGrowWithTheInsert)
+{
+    CDxfStream stream;
+    stream.Block("B",
+                 "0 HATCH, 8 A, 2 LINE, 70 0, 91 1, 92 2, 72 0, 73 1, 93 3, 10 0, 20 0, "
+                 "10 10, 20 0, 10 10, 20 10, 97 0, 75 0, 76 1, 52 0, 41 1, 77 0, 78 1, "
+                 "53 0, 43 0, 44 0, 45 0, 46 2, 79 2, 49 3, 49 -1, 98 0");
+    const auto& read = stream.Entities("0 INSERT, 2 B, 8 A, 41 5, 42 5, 50 90").Read();
+    ASSERT_EQ(read.areas.size(), 1U) << stream.Losses();
+    const SFeatureFill& fill = read.areas[0].fill;
+    EXPECT_NEAR(fill.angle, M_PI / 2, 1e-12);
+    ASSERT_EQ(fill.lines.size(), 1U);
+    EXPECT_NEAR(fill.lines[0].angle, 90, 1e-9);
+    EXPECT_NEAR(fill.lines[0].offsetX, -10, 1e-9);
+    EXPECT_NEAR(fill.lines[0].offsetY, 0, 1e-9);
+    ASSERT_EQ(fill.lines[0].dashes.size(), 2U);
+    EXPECT_NEAR(fill.lines[0].dashes[0], 15, 1e-9);
+}
+
 TEST(DxfFeatureAreas, HatchHasItsOutermostRingsFirst)
 {
     CDxfStream stream;
@@ -171,6 +190,14 @@ TEST(DxfFeatureAreas, ImageTellsItsCorners)
     EXPECT_NEAR(image.across.y, 8, 1e-9);
     EXPECT_NEAR(image.rotation, std::atan2(3, 4), 1e-12);
     EXPECT_TRUE(image.clip.empty());
+}
+
+TEST(DxfFeatureAreas, ImageWithoutAFileIsListed)
+{
+    CDxfStream stream;
+    EXPECT_TRUE(
+        stream.Entities("0 IMAGE, 8 A, 11 1, 22 1, 13 2, 23 2, 340 AB").Read().images.empty());
+    EXPECT_EQ(stream.Lost("images without a file, left out"), "1: ");
 }
 
 TEST(DxfFeatureAreas, ClipOfAnImageIsInTheDrawing)

@@ -71,6 +71,18 @@ TEST(DxfFeatureBlocks, WhatIsOnLayer0GoesToTheLayerOfTheInsert)
     EXPECT_EQ(read.lines[1].stroke.color, 0xFFU);
 }
 
+TEST(DxfFeatureBlocks, WhatIsBlackOnLayer0AmongBlackByLayerStaysBlack)
+{
+    CDxfStream stream;
+    stream.Table("0 LAYER, 2 0, 62 7").Table("0 LAYER, 2 Trees, 62 3");
+    stream.Block("Tree", "0 LINE, 8 0, 11 1, 21 0, 0 LINE, 8 0, 62 7, 11 1, 21 0");
+    const auto& read = stream.Entities("0 INSERT, 2 Tree, 8 Trees").Read();
+    EXPECT_EQ(read.lines.at(0).stroke.color, 0U);
+    EXPECT_EQ(stream.Lost("elements of blocks in the colour of their insert's layer, black among "
+                          "other black ones"),
+              "1: ");
+}
+
 TEST(DxfFeatureBlocks, WhatIsByBlockLooksLikeTheInsert)
 {
     CDxfStream stream;
@@ -202,6 +214,24 @@ TEST(DxfFeatureBlocks, AttributesGoToAllThatComesOfAnInsert)
     EXPECT_EQ(stream.Met("ATTRIB"), "2+0");
 }
 
+TEST(DxfFeatureBlocks, HiddenAttributesAreNoTexts)
+{
+    CDxfStream stream;
+    stream.Block("Well", "0 POINT, 8 A");
+    const auto& read =
+        stream
+            .Entities("0 INSERT, 2 Well, 8 A, 66 1, 0 ATTRIB, 8 A, 40 1, 2 NO, 70 1, 1 7, "
+                      "0 ATTRIB, 8 A, 40 1, 2 NAME, 70 0, 1 x, 0 SEQEND, "
+                      "0 INSERT, 2 WELL, 8 A, 66 1, 0 ATTRIB, 8 A, 40 1, 2 NO, 70 1, 1 8, "
+                      "0 ATTRIB, 8 A, 40 1, 2 NAME, 70 1, 1 y, 0 SEQEND")
+            .Read();
+    EXPECT_EQ(AttributesOf(read.points.at(0)), "NO=7 NAME=x ");
+    ASSERT_EQ(read.texts.size(), 2U); // of a tag that shows somewhere all show
+    EXPECT_EQ(read.texts[0].text, "x");
+    EXPECT_EQ(stream.Lost("attributes that are hidden, which show in the result"), "1: ");
+    EXPECT_EQ(stream.Met("ATTRIB"), "4+0");
+}
+
 TEST(DxfFeatureBlocks, NestedInsertsAddTheirAttributes)
 {
     CDxfStream stream;
@@ -269,7 +299,7 @@ TEST(DxfFeatureBlocks, BlocksThatBlowUpEnd)
     CFeatureTally tally;
     CDxfTally counts;
     const CDxfSurvey survey(counts);
-    CDxfFeatureReader reader(recorder, tally, survey, SSourceOptions());
+    CDxfFeatureReader reader(recorder, tally, survey, counts, SSourceOptions());
     reader.LimitDrawn(1000);
     CInsertDXF insert;
     for (int i = 0; i < 40; ++i) {

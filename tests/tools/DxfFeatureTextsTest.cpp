@@ -40,6 +40,16 @@ TEST(DxfFeatureTexts, TextKeepsItsLooks)
     EXPECT_EQ(stream.Losses(), "");
 }
 
+TEST(DxfFeatureTexts, StyleWithATypefaceOfTheSystemGivesIt)
+{
+    CDxfStream stream;
+    stream.Table("0 STYLE, 2 Gost, 3 gost.ttf, 1001 ACAD, 1000 GOST type A, 1071 16777216");
+    const auto& read = stream.Entities("0 TEXT, 8 A, 7 Gost, 40 2, 1 x").Read();
+    EXPECT_EQ(read.texts.at(0).font, "GOST type A");
+    EXPECT_TRUE(read.texts[0].isItalic);
+    EXPECT_FALSE(read.texts[0].isBold);
+}
+
 TEST(DxfFeatureTexts, TextWithoutAWidthHasThatOfTheFont)
 {
     CDxfStream stream;

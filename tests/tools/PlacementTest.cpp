@@ -82,6 +82,13 @@ TEST(Placement, TellsItsScales)
     EXPECT_FALSE(placement.Around(placement).IsMirrored());
 }
 
+TEST(Placement, TurnsAngles)
+{
+    EXPECT_NEAR(CPlacement(Insert({}, 30, 1, 1), {}).TurnedAngle(1), 1 + M_PI / 6, 1e-12);
+    EXPECT_NEAR(CPlacement(Insert({}, 0, 1, -1), {}).TurnedAngle(1), 2 * M_PI - 1, 1e-12);
+    EXPECT_EQ(CPlacement().TurnedAngle(-7), -7);
+}
+
 TEST(Placement, TurnsDirectionsWithoutMovingThem)
 {
     const auto direction = CPlacement(Insert({9, 9, 9}, 180, 2, 2), {}).Turned({1, 0});

@@ -44,6 +44,7 @@ bool CDxfBlocks::Add(const CBlockDXF& block)
         return false;
     }
     kept = std::make_shared<SDxfBlock>();
+    kept->name = block.name;
     kept->parts.emplace_back();
     for (const CEntityVariantDXF& entity : block.entities) {
         if (IsLeftOut(entity)) {

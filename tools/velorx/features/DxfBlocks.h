@@ -23,6 +23,7 @@ struct SDxfBlockPart
 /// A block as it is kept to be drawn at its inserts.
 struct SDxfBlock
 {
+    QString name; ///< As the drawing spells it.
     std::vector<SDxfBlockPart> parts;
     bool isUsed = false; ///< Whether it was drawn.
 };

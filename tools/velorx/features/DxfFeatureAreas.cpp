@@ -6,6 +6,7 @@
 #include "tools/velorx/features/RingOrder.h"
 #include "tools/velorx/formats/DxfHatchOutlines.h"
 #include "tools/velorx/formats/DxfKinds.h"
+#include "tools/velorx/formats/DxfSurvey.h"
 
 #include <algorithm>
 #include <cmath>
@@ -21,9 +22,37 @@ namespace {
 constexpr double kDegree = 3.141592653589793 / 180.0;
 constexpr double kSamePlace = 1e-6; // file units
 
+constexpr double kHalfPixel = 0.5;
+
 CPoint2D Along(const CPoint2D& from, const CPoint2D& v, double part)
 {
     return {from.x + v.x * part, from.y + v.y * part};
+}
+
+bool IsAtEdge(double pixel, double size)
+{
+    constexpr double kNear = 1e-6;
+    return std::fabs(pixel + kHalfPixel) < kNear || std::fabs(pixel + kHalfPixel - size) < kNear;
+}
+
+// The ring of what is shown, none for all of the picture.
+void FillClip(SImageFeature& image, const std::vector<CPoint3D>& clip)
+{
+    const bool isAll = std::all_of(clip.begin(), clip.end(), [&image](const CPoint3D& pixel) {
+        return IsAtEdge(pixel.x, image.widthPixels) && IsAtEdge(pixel.y, image.heightPixels);
+    });
+    for (const CPoint3D& pixel : isAll ? std::vector<CPoint3D>() : clip) {
+        const double right = (pixel.x + kHalfPixel) / image.widthPixels;
+        const double down = (pixel.y + kHalfPixel) / image.heightPixels;
+        image.clip.push_back(
+            Along(Along(image.origin, image.along, right), image.across, 1 - down));
+    }
+    const auto isEnd = [&image](const CPoint2D& end) {
+        return end.x == image.clip.front().x && end.y == image.clip.front().y;
+    };
+    if (image.clip.size() > 1 && isEnd(image.clip.back())) {
+        image.clip.pop_back();
+    }
 }
 
 } // namespace
@@ -32,7 +61,7 @@ CPoint2D Along(const CPoint2D& from, const CPoint2D& v, double part)
 bool CDxfFeatureReader::On3DFace(const C3DFaceDXF& record)
 {
     const char* kind = EntityName(k3DFace);
-    Meet(kind);
+    Meet(k3DFace);
     CFeatureLine ring(record.corners.begin(), record.corners.end());
     DropRepeats(ring);
     if (ring.size() < 3) {
@@ -50,7 +79,7 @@ bool CDxfFeatureReader::On3DFace(const C3DFaceDXF& record)
 bool CDxfFeatureReader::OnSolid(const CSolidDXF& record)
 {
     constexpr std::size_t kCorners = 4;
-    Meet(EntityName(kSolid));
+    Meet(kSolid);
     CFeatureLine ring = record.points;
     if (ring.size() > 1) {
         ring.pop_back();
@@ -73,9 +102,36 @@ bool CDxfFeatureReader::OnSolid(const CSolidDXF& record)
     return Give(area);
 }
 
+// The angle and the lines turn and grow with the insert.
+void CDxfFeatureReader::FillPattern(SFeatureFill& fill, const CHatchDXF& hatch) const
+{
+    fill.pattern = hatch.style.name;
+    fill.angle = place.placement.TurnedAngle(hatch.angle * kDegree);
+    fill.isDouble = hatch.style.isDouble;
+    const CDxfHatchPatterns::SPattern* pattern = survey.HatchPatterns().Find(hatch.style.name);
+    if (pattern == nullptr) {
+        return;
+    }
+    for (CHatchLineDXF line : CDxfHatchPatterns::LinesAt(*pattern, hatch.angle)) {
+        const CPoint3D base = place.placement({line.baseX, line.baseY, 0.0});
+        const CPoint2D offset = place.placement.Turned({line.offsetX, line.offsetY});
+        const double angle = line.angle * kDegree;
+        const CPoint2D along = place.placement.Turned({std::cos(angle), std::sin(angle)});
+        for (double& dash : line.dashes) {
+            dash *= std::hypot(along.x, along.y);
+        }
+        line.angle = place.placement.TurnedAngle(angle) / kDegree;
+        line.baseX = base.x;
+        line.baseY = base.y;
+        line.offsetX = offset.x;
+        line.offsetY = offset.y;
+        fill.lines.push_back(std::move(line));
+    }
+}
+
 bool CDxfFeatureReader::OnHatch(const CHatchDXF& record)
 {
-    Meet(EntityName(kHatch));
+    Meet(kHatch);
     SAreaFeature area;
     FillHead(area, EntityName(kHatch), record.layer);
     area.is3D = record.elevation != 0.0;
@@ -85,9 +141,7 @@ bool CDxfFeatureReader::OnHatch(const CHatchDXF& record)
         record.style.name.compare(QLatin1String("SOLID"), Qt::CaseInsensitive) == 0;
     area.fill.kind = isSolid ? EFeatureFill::Solid : EFeatureFill::Pattern;
     if (!isSolid) {
-        area.fill.pattern = record.style.name;
-        area.fill.angle = record.angle * kDegree;
-        area.fill.isDouble = record.style.isDouble;
+        FillPattern(area.fill, record);
     }
     const SHatchRings outlines = RingsOf(WithChords(record, chords), kSamePlace);
     int dropped = outlines.dropped;
@@ -112,35 +166,37 @@ bool CDxfFeatureReader::OnHatch(const CHatchDXF& record)
     return true;
 }
 
-// A picture's pixels are counted from the middle of the upper left one, downwards.
+// Where a picture does not tell its size, a rectangle that it is clipped to stands for it. Pixels are counted
+// from the middle of the upper left one, downwards.
 bool CDxfFeatureReader::OnImage(const CImageDXF& record)
 {
-    constexpr double kHalf = 0.5;
-    Meet(EntityName(kImage));
+    Meet(kImage);
     SImageFeature image;
     FillHead(image, EntityName(kImage), record.layer);
-    const double width = record.scaleX * record.widthPixels;
-    const double height = record.scaleY * record.heightPixels;
-    const double cosine = std::cos(record.rotation);
-    const double sine = std::sin(record.rotation);
     image.path = record.filePath;
     image.name = record.name;
     image.origin = record.origin;
-    image.along = {width * cosine, width * sine};
-    image.across = {-height * sine, height * cosine};
     image.widthPixels = record.widthPixels;
     image.heightPixels = record.heightPixels;
     image.rotation = record.rotation;
     std::vector<CPoint3D> clip = record.clip;
     if (clip.size() == 2) {
+        if (!(image.widthPixels > 0) && !(image.heightPixels > 0)) {
+            image.widthPixels = std::max(clip[0].x, clip[1].x) + kHalfPixel;
+            image.heightPixels = std::max(clip[0].y, clip[1].y) + kHalfPixel;
+        }
         clip = {clip[0], {clip[1].x, clip[0].y, 0}, clip[1], {clip[0].x, clip[1].y, 0}};
     }
-    for (const CPoint3D& pixel : clip) {
-        const double right = (pixel.x + kHalf) / record.widthPixels;
-        const double down = (pixel.y + kHalf) / record.heightPixels;
-        image.clip.push_back(
-            Along(Along(record.origin, image.along, right), image.across, 1 - down));
+    if (!(image.widthPixels > 0) || !(image.heightPixels > 0)) {
+        return Lost(image.kind, image.layer, losses::kNoSize);
     }
+    const double width = record.scaleX * image.widthPixels;
+    const double height = record.scaleY * image.heightPixels;
+    const double cosine = std::cos(record.rotation);
+    const double sine = std::sin(record.rotation);
+    image.along = {width * cosine, width * sine};
+    image.across = {-height * sine, height * cosine};
+    FillClip(image, clip);
     return Give(image);
 }
 

@@ -6,6 +6,7 @@
 #include "tools/velorx/features/PlainText.h"
 #include "tools/velorx/formats/DxfKinds.h"
 #include "tools/velorx/formats/DxfSurvey.h"
+#include "tools/velorx/formats/DxfTally.h"
 #include "VelorExchange/dxf/read/Read.h"
 
 #include <boost/variant2/variant.hpp>
@@ -55,6 +56,9 @@ void Inherit(CEntityDXF& head, const CInsertDXF& insert)
 bool CDxfFeatureReader::OnBlock(const CBlockDXF& record)
 {
     const auto size = static_cast<qint64>(record.entities.size());
+    for (const CEntityVariantDXF& entity : record.entities) {
+        firstTally.Read(KindOf(entity), true);
+    }
     const auto definitions = static_cast<qint64>(
         std::count_if(record.entities.begin(), record.entities.end(), IsDefinition));
     if (definitions > 0) {
@@ -77,7 +81,7 @@ bool CDxfFeatureReader::OnInsert(const CInsertDXF& record)
         TakeData(record);
         return true;
     }
-    Meet(EntityName(kInsert));
+    Meet(kInsert);
     const QString layer = LayerOf(record.layer);
     const SDxfBlock* block = blocks.Find(record.name);
     if (std::find(open.begin(), open.end(), block) != open.end()) {
@@ -90,11 +94,21 @@ bool CDxfFeatureReader::OnInsert(const CInsertDXF& record)
     place.attributes = Joined(record.attributes);
     DrawBlock(record);
     for (const CAttribDXF& attribute : record.attributes) {
-        tally.Read(kAttrib, place.isInBlock);
-        GiveTextLine(kAttrib, attribute, attribute.style.widthFactor);
+        GiveAttribute(record.name, attribute);
     }
     place = outer;
     return true;
+}
+
+// A hidden attribute is there as such, but not as a text.
+void CDxfFeatureReader::GiveAttribute(const QString& block, const CAttribDXF& attribute)
+{
+    tally.Read(kAttrib, place.isInBlock);
+    if (survey.HiddenTags().IsHidden(block, attribute.tag)) {
+        tally.Wrote(kAttrib, "attribute of its object");
+    } else {
+        GiveTextLine(kAttrib, attribute, attribute.style.widthFactor);
+    }
 }
 
 // Where the block gives nothing, a point keeps the place and the attributes.
@@ -214,6 +228,8 @@ void CDxfFeatureReader::TakeData(const CInsertDXF& record)
         const QString text = PlainOfText(attribute.text).text;
         if (attribute.tag == QLatin1String(kCodeTag)) {
             next.code = text.toInt();
+        } else if (attribute.tag == QLatin1String(kOutlinesTag)) {
+            next.outlines = text.toInt();
         } else {
             attributes->push_back({attribute.tag, text});
         }
@@ -225,6 +241,7 @@ void CDxfFeatureReader::TakeData(const CInsertDXF& record)
 
 void CDxfFeatureReader::Finish()
 {
+    HandOnHeld();
     if (hasNext) {
         tally.Lose(QLatin1String(losses::kLooseData));
     }

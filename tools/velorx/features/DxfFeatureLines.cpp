@@ -52,7 +52,7 @@ double SweepOf(double start, double end)
 
 bool CDxfFeatureReader::OnPoint(const CPointDXF& record)
 {
-    Meet(EntityName(kPoint));
+    Meet(kPoint);
     SPointFeature point;
     FillHead(point, EntityName(kPoint), record.layer);
     point.position = record.point;
@@ -62,27 +62,27 @@ bool CDxfFeatureReader::OnPoint(const CPointDXF& record)
 
 bool CDxfFeatureReader::OnLine(const CLineDXF& record)
 {
-    Meet(EntityName(kLine));
+    Meet(kLine);
     const CFeatureLine path = {record.start, record.end};
     return GivePath(EntityName(kLine), record, path, HasHeights(path));
 }
 
 bool CDxfFeatureReader::OnXLine(const CXLineDXF& record)
 {
-    Meet(EntityName(kXLine));
+    Meet(kXLine);
     return Lost(EntityName(kXLine), LayerOf(record.layer), losses::kEndless);
 }
 
 bool CDxfFeatureReader::OnRay(const CRayDXF& record)
 {
-    Meet(EntityName(kRay));
+    Meet(kRay);
     return Lost(EntityName(kRay), LayerOf(record.layer), losses::kEndless);
 }
 
 bool CDxfFeatureReader::OnArc(const CArcDXF& record)
 {
     const char* kind = EntityName(KindOf(record));
-    Meet(kind);
+    Meet(KindOf(record));
     const double start = record.startAngle * kDegree;
     CFeatureLine path;
     if (record.radius > 0) {
@@ -99,7 +99,7 @@ bool CDxfFeatureReader::OnArc(const CArcDXF& record)
 // The minor axis lies in the plan, as far as the reader tells: ellipses on a slant are not known as such.
 bool CDxfFeatureReader::OnEllipse(const CEllipseDXF& record)
 {
-    Meet(EntityName(kEllipse));
+    Meet(kEllipse);
     const CPoint3D& major = record.majorAxis;
     const double flat = std::hypot(major.x, major.y);
     const double length = std::hypot(flat, major.z) * record.ratio;
@@ -120,7 +120,7 @@ bool CDxfFeatureReader::OnEllipse(const CEllipseDXF& record)
 
 bool CDxfFeatureReader::OnSpline(const CSplineDXF& record)
 {
-    Meet(EntityName(kSpline));
+    Meet(kSpline);
     CFeatureLine path;
     for (const CBezier& piece : PiecesOf(record)) {
         if (path.empty()) {
@@ -139,7 +139,7 @@ bool CDxfFeatureReader::OnSpline(const CSplineDXF& record)
 // polyline of two vertices has none, but tells itself by the bulge of its second.
 bool CDxfFeatureReader::OnLWPolyline(const CLWPolylineDXF& record)
 {
-    Meet(EntityName(kLWPolyline));
+    Meet(kLWPolyline);
     CPolylineDXF polyline;
     static_cast<CEntityDXF&>(polyline) = record;
     polyline.vertices = record.vertices;
@@ -154,7 +154,7 @@ bool CDxfFeatureReader::OnLWPolyline(const CLWPolylineDXF& record)
 
 bool CDxfFeatureReader::OnPolyline(const CPolylineDXF& record)
 {
-    Meet(EntityName(kPolyline));
+    Meet(kPolyline);
     return GivePolyline(EntityName(kPolyline), record);
 }
 
@@ -186,7 +186,7 @@ bool CDxfFeatureReader::GivePolyline(const char* kind, const CPolylineDXF& polyl
 bool CDxfFeatureReader::OnMLine(const CMLineDXF& record)
 {
     const char* kind = EntityName(kMLine);
-    Meet(kind);
+    Meet(kMLine);
     const QString layer = LayerOf(record.layer);
     if (record.vertices.size() < 2) {
         return Lost(kind, layer, losses::kNothing);

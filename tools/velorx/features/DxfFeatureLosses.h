@@ -7,6 +7,7 @@ namespace velorx::losses {
 constexpr char kNothing[] = ", nothing to draw: left out";
 constexpr char kNoNumber[] = ", with a number that is none: left out";
 constexpr char kEndless[] = ", a line without an end: left out";
+constexpr char kNoSize[] = ", without a size in pixels: left out";
 constexpr char kWordless[] = ", without a letter: left out";
 constexpr char kWithinItself[] = ", of a block within itself: left out";
 constexpr char kTooDeep[] = ", of a block within a hundred others: left out";
@@ -33,6 +34,8 @@ constexpr char kFormats[] = "texts with formatting that is dropped";
 constexpr char kAnchors[] =
     "texts set by their middle or right end, set by the left one at the same place";
 constexpr char kMirroredTexts[] = "texts mirrored by their insert, written to be read";
+constexpr char kFollowedColours[] =
+    "elements of blocks in the colour of their insert's layer, black among other black ones";
 constexpr char kLineTypes[] = "line types with letters or shapes, drawn with their dashes alone";
 constexpr char kNoHeight[] = "texts without a height, written 2.5 units high";
 

@@ -5,6 +5,7 @@
 #include "tools/velorx/features/DxfFeatureLosses.h"
 #include "tools/velorx/features/FiniteFeature.h"
 #include "tools/velorx/formats/DxfSurvey.h"
+#include "tools/velorx/formats/DxfTally.h"
 
 #include <algorithm>
 #include <cmath>
@@ -36,13 +37,21 @@ EFeatureAlign Opposite(EFeatureAlign align)
 } // namespace
 
 CDxfFeatureReader::CDxfFeatureReader(IFeatureSink& features, CFeatureTally& counts,
-                                     const CDxfSurvey& firstLook, const SSourceOptions& options)
-    : sink(features), tally(counts), survey(firstLook), progress(options.progress),
-      chords(options.chord), tolerance(chords.Tolerance()), styles(firstLook)
+                                     const CDxfSurvey& firstLook, CDxfTally& expected,
+                                     const SSourceOptions& options)
+    : sink(features), tally(counts), survey(firstLook), firstTally(expected),
+      progress(options.progress), chords(options.chord), tolerance(chords.Tolerance()),
+      styles(firstLook)
 {
 }
 
 // ---- Tables ------------------------------------------------------------------------------------
+
+bool CDxfFeatureReader::OnSection(int stage)
+{
+    constexpr int kObjects = 4;
+    return stage != kObjects || !survey.AreObjectsAhead();
+}
 
 bool CDxfFeatureReader::OnLayer(const CLayerDXF& record)
 {
@@ -51,21 +60,19 @@ bool CDxfFeatureReader::OnLayer(const CLayerDXF& record)
     return true;
 }
 
-bool CDxfFeatureReader::OnTextStyle(const CTextStyleDXF& record)
-{
-    styles.Add(record);
-    return true;
-}
-
 // ---- What elements have in common ---------------------------------------------------------------
 
 // What stood ahead of an element as its data is that element's.
-void CDxfFeatureReader::Meet(const char* kind)
+void CDxfFeatureReader::Meet(EDxfKind kind)
 {
-    tally.Read(kind, place.isInBlock);
+    tally.Read(EntityName(kind), place.isInBlock);
     if (!place.isInBlock) {
+        firstTally.Read(kind, false);
         place = std::exchange(next, SPlace());
         hasNext = false;
+        if (kind != kLWPolyline && kind != kPolyline) {
+            HandOnHeld();
+        }
     }
 }
 
@@ -81,14 +88,24 @@ bool CDxfFeatureReader::IsFloating(const QString& layer) const
     return place.isInBlock && styles.LayerName(layer) == QLatin1String("0");
 }
 
-// The reader has resolved colours by layer already. What has the colour of layer 0 in a block, and is on it,
-// is by layer most likely, and then has the colour of the insert's.
+// The reader has resolved colours by layer already, but by the wrong one for layer 0 of a block, and has black
+// for the number that says so.
+bool CDxfFeatureReader::IsByLayer(quint32 color, const QString& layer) const
+{
+    constexpr quint32 kBlack = 0;
+    if (color == kByBlockColor) {
+        return true;
+    }
+    if (!IsFloating(layer)) {
+        return color == kBlack && survey.Colours().IsBlackByLayer(styles.LayerName(layer));
+    }
+    return color == kBlack ? survey.Colours().IsBlackFollowed(open.back()->name)
+                           : color == styles.Layer(QStringLiteral("0")).color;
+}
+
 quint32 CDxfFeatureReader::ColourOf(quint32 color, const QString& layer) const
 {
-    const bool isByLayer = color == kByBlockColor
-        || (IsFloating(layer) && color == styles.Layer(QStringLiteral("0")).color)
-        || (color == 0 && survey.Colours().IsBlackByLayer(styles.LayerName(layer)));
-    const quint32 resolved = isByLayer ? styles.Layer(LayerOf(layer)).color : color;
+    const quint32 resolved = IsByLayer(color, layer) ? styles.Layer(LayerOf(layer)).color : color;
     return resolved == kByBlockColor ? 0 : resolved;
 }
 
@@ -161,6 +178,9 @@ bool CDxfFeatureReader::Give(SLineFeature& line)
     if (line.points.size() < 2) {
         return Lost(line.kind, line.layer, losses::kNothing);
     }
+    if (!place.isInBlock) {
+        HandOnHeld();
+    }
     Place(line.points);
     line.stroke.planWidth *= place.placement.MeanScale();
     return HandOnPlaced(line);
@@ -175,6 +195,9 @@ bool CDxfFeatureReader::Give(SAreaFeature& area)
         Place(ring);
     }
     area.stroke.planWidth *= place.placement.MeanScale();
+    if (!place.isInBlock && IsFinite(area) && (JoinHeld(area) || Hold(area))) {
+        return true;
+    }
     return HandOnPlaced(area);
 }
 

@@ -7,6 +7,7 @@
 #include "tools/velorx/features/FeatureTally.h"
 #include "tools/velorx/features/IFeatureSource.h"
 #include "tools/velorx/features/Placement.h"
+#include "tools/velorx/formats/DxfKinds.h"
 #include "VelorExchange/dxf/records/IDXFReader.h"
 
 #include <QString>
@@ -16,6 +17,7 @@
 namespace velorx {
 
 class CDxfSurvey;
+class CDxfTally;
 struct SPlainText;
 
 /// Turns what the library reads of a drawing into features.
@@ -26,13 +28,15 @@ struct SPlainText;
 class CDxfFeatureReader final : public VelorExchange::dxf::IDXFReader
 {
 public:
-    /// All three outlive this object.
+    /// All but the options outlive this object. `expected` is the tally of the first look; it hears of what
+    /// the library delivers, so that it knows what does not come.
     CDxfFeatureReader(IFeatureSink& features, CFeatureTally& counts, const CDxfSurvey& firstLook,
-                      const SSourceOptions& options);
+                      CDxfTally& expected, const SSourceOptions& options);
 
     /// No more than `count` elements of blocks are drawn, five million unless told otherwise.
     void LimitDrawn(qint64 count) { mostDrawn = count; }
 
+    bool OnSection(int stage) override;
     bool OnPolyline(const VelorExchange::dxf::CPolylineDXF& record) override;
     bool OnMLine(const VelorExchange::dxf::CMLineDXF& record) override;
     bool OnEllipse(const VelorExchange::dxf::CEllipseDXF& record) override;
@@ -51,7 +55,6 @@ public:
     bool OnText(const VelorExchange::dxf::CTextDXF& record) override;
     bool OnPoint(const VelorExchange::dxf::CPointDXF& record) override;
     bool OnBlock(const VelorExchange::dxf::CBlockDXF& record) override;
-    bool OnTextStyle(const VelorExchange::dxf::CTextStyleDXF& record) override;
     bool OnLayer(const VelorExchange::dxf::CLayerDXF& record) override;
     VelorExchange::dxf::IDXFProgress* GetProgress() override { return progress; }
 
@@ -67,12 +70,14 @@ private:
         QString layer; ///< Where what is drawn on layer 0 goes, within a block.
         int code = 0;
         CFeatureAttributes attributes;
+        int outlines = 0; ///< How many outlines of the element stand behind it.
     };
 
     // What elements have in common.
-    void Meet(const char* kind);
+    void Meet(EDxfKind kind);
     QString LayerOf(const QString& layer) const;
     bool IsFloating(const QString& layer) const;
+    bool IsByLayer(quint32 color, const QString& layer) const;
     quint32 ColourOf(quint32 color, const QString& layer) const;
     SFeatureStroke StrokeOf(const VelorExchange::dxf::CEntityDXF& head);
     void FillHead(SFeature& feature, const char* kind, const QString& layer) const;
@@ -89,14 +94,22 @@ private:
     bool HandOnPlaced(const TFeature& feature);
     void Place(CFeatureLine& line) const;
 
+    // Areas whose outlines stand behind them.
+    bool Hold(const SAreaFeature& area);
+    bool JoinHeld(const SAreaFeature& outline);
+    void HandOnHeld();
+
     // A line, or an area where it is closed.
     bool GivePath(const char* kind, const VelorExchange::dxf::CEntityDXF& head, CFeatureLine path,
                   bool is3D, double width = 0.0);
     bool GivePolyline(const char* kind, const VelorExchange::dxf::CPolylineDXF& polyline);
+    void GiveAttribute(const QString& block, const VelorExchange::dxf::CAttribDXF& attribute);
     bool GiveTextLine(const char* kind, const VelorExchange::dxf::CTextDXF& record,
                       double widthFactor);
     bool GiveWords(STextFeature& text, const VelorExchange::dxf::CTextDXF& record,
                    const SPlainText& plain);
+
+    void FillPattern(SFeatureFill& fill, const VelorExchange::dxf::CHatchDXF& hatch) const;
 
     // Blocks.
     void TakeData(const VelorExchange::dxf::CInsertDXF& record);
@@ -111,6 +124,7 @@ private:
     IFeatureSink& sink;
     CFeatureTally& tally;
     const CDxfSurvey& survey;
+    CDxfTally& firstTally;
     VelorExchange::dxf::IDXFProgress* progress;
     CChords chords;
     const double tolerance; ///< Of chords in the drawing; `chords` has that in the block.
@@ -123,6 +137,8 @@ private:
     qint64 given = 0; ///< Features that were handed on.
     bool hasNext = false; ///< Whether `next` waits for an element.
     SPlace next; ///< Attributes and code of the element that comes next.
+    SAreaFeature held; ///< An area that waits for `outlinesToCome`.
+    int outlinesToCome = 0;
 };
 
 } // namespace velorx

@@ -26,7 +26,7 @@ constexpr EDxfLoss kKept[] = {
     EDxfLoss::AttDefFlags,     EDxfLoss::TrueBlacks,         EDxfLoss::LayerColours,
     EDxfLoss::LayerLineTypes,  EDxfLoss::LayerLineWeights,   EDxfLoss::LineTypePatterns,
     EDxfLoss::TwoVertexClosed, EDxfLoss::HatchPatternScales, EDxfLoss::DrawingUnits,
-    EDxfLoss::HeaderVariables,
+    EDxfLoss::HeaderVariables, EDxfLoss::HiddenAttributes,
 };
 
 bool IsKept(const QString& what)
@@ -63,10 +63,14 @@ void HandOnLosses(const CDxfTally& counts, CFeatureTally& tally)
 // What the first look knows in the end alone.
 void HandOnRest(const CDxfSurvey& survey, CFeatureTally& tally)
 {
-    const int lineTypes = survey.LineTypes().WithSymbols();
-    if (lineTypes > 0) {
-        tally.Lose(QLatin1String(losses::kLineTypes), QString(), lineTypes);
-    }
+    const auto lose = [&tally](const char* what, qint64 count) {
+        if (count > 0) {
+            tally.Lose(QLatin1String(what), QString(), count);
+        }
+    };
+    lose(losses::kLineTypes, survey.LineTypes().WithSymbols());
+    lose(LossText(EDxfLoss::HiddenAttributes), survey.HiddenTags().Mixed());
+    lose(losses::kFollowedColours, survey.Colours().Followers(false));
     survey.Colours().ForMixedLayers([&tally](const QString& layer, qint64 count) {
         tally.Lose(QLatin1String(LossText(EDxfLoss::ExplicitByLayer)), layer, count);
     });
@@ -93,9 +97,10 @@ QString CDxfFeatureSource::Read(IFeatureSink& sink, CFeatureTally& tally)
         return QStringLiteral("it cannot be opened");
     }
     sink.TakeHead({NameOf(path), 0});
-    CDxfFeatureReader reader(sink, tally, survey, options);
+    CDxfFeatureReader reader(sink, tally, survey, counts, options);
     const bool isWhole = VelorExchange::dxf::Read(path, &reader);
     reader.Finish();
+    counts.EndReading();
     HandOnLosses(counts, tally);
     HandOnRest(survey, tally);
     return isWhole ? QString() : QStringLiteral("the drawing ends inside a block");

@@ -37,7 +37,7 @@ bool IsFree(int horizontal)
 
 bool CDxfFeatureReader::OnText(const CTextDXF& record)
 {
-    Meet(EntityName(kText));
+    Meet(kText);
     return GiveTextLine(EntityName(kText), record, record.style.height);
 }
 
@@ -63,7 +63,7 @@ bool CDxfFeatureReader::GiveTextLine(const char* kind, const CTextDXF& record, d
 
 bool CDxfFeatureReader::OnMText(const CMTextDXF& record)
 {
-    Meet(EntityName(kMText));
+    Meet(kMText);
     STextFeature text;
     FillHead(text, EntityName(kMText), record.layer);
     const bool isPlace = record.alignment >= 1 && record.alignment <= kPlaces;

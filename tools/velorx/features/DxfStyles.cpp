@@ -76,17 +76,24 @@ SDxfTypeface TypefaceOf(const QString& fontFile)
     return {name, false, false};
 }
 
+QString FontFileOf(const SDxfTypeface& typeface)
+{
+    for (const SFontFile& known : kFontFiles) {
+        if (known.isBold == typeface.isBold && known.isItalic == typeface.isItalic
+            && typeface.name.compare(QLatin1String(known.typeface), Qt::CaseInsensitive) == 0)
+        {
+            return QLatin1String(known.file) + QLatin1String(".ttf");
+        }
+    }
+    return typeface.name + QLatin1String(".ttf");
+}
+
 void CDxfStyles::Add(const CLayerDXF& layer)
 {
     const QString key = layer.name.toCaseFolded();
     if (!layers.contains(key)) {
         layers.insert(key, layer);
     }
-}
-
-void CDxfStyles::Add(const CTextStyleDXF& style)
-{
-    typefaces.insert(style.name.toCaseFolded(), TypefaceOf(style.fontFile));
 }
 
 QString CDxfStyles::LayerName(const QString& name) const
@@ -131,7 +138,12 @@ std::shared_ptr<const SFeatureLineType> CDxfStyles::LineType(const QString& name
 
 SDxfTypeface CDxfStyles::Typeface(const QString& name) const
 {
-    return typefaces.value(name.toCaseFolded());
+    const CTextStyleDXF* style = survey.TextStyle(name);
+    if (style == nullptr) {
+        return {};
+    }
+    return style->faceName.isEmpty() ? TypefaceOf(style->fontFile)
+                                     : SDxfTypeface{style->faceName, style->bold, style->italic};
 }
 
 } // namespace velorx

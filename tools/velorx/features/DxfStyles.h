@@ -3,7 +3,6 @@
 
 #include "tools/velorx/features/Feature.h"
 #include "VelorExchange/dxf/records/Layer.h"
-#include "VelorExchange/dxf/records/TextStyle.h"
 
 #include <QHash>
 #include <QString>
@@ -25,6 +24,9 @@ struct SDxfTypeface
 /// The typeface in a font file, "arialbd.ttf"; none for files of shapes.
 SDxfTypeface TypefaceOf(const QString& fontFile);
 
+/// The font file of `typeface`, so that `TypefaceOf` tells it again, and for common ones its cut as well.
+QString FontFileOf(const SDxfTypeface& typeface);
+
 /// What the tables of a drawing tell. Memory grows with the number of names.
 class CDxfStyles
 {
@@ -33,7 +35,6 @@ public:
     explicit CDxfStyles(const CDxfSurvey& firstLook) : survey(firstLook) { }
 
     void Add(const VelorExchange::dxf::CLayerDXF& layer);
-    void Add(const VelorExchange::dxf::CTextStyleDXF& style);
 
     /// `name` as the table of layers spells it, "0" for an empty one.
     QString LayerName(const QString& name) const;
@@ -44,13 +45,13 @@ public:
     /// The dashes of the line type `name`, in any case; null for a solid line.
     std::shared_ptr<const SFeatureLineType> LineType(const QString& name);
 
-    /// The typeface of the text style `name`, in any case.
+    /// The typeface of the text style `name`, in any case: that of the system which it names, else that in its
+    /// font file.
     SDxfTypeface Typeface(const QString& name) const;
 
 private:
     const CDxfSurvey& survey;
     QHash<QString, VelorExchange::dxf::CLayerDXF> layers; ///< By name without case.
-    QHash<QString, SDxfTypeface> typefaces; ///< By name without case.
     QHash<QString, std::shared_ptr<const SFeatureLineType>> lineTypes; ///< By name without case.
 };
 

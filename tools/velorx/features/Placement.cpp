@@ -63,6 +63,17 @@ CPoint2D CPlacement::Turned(const CPoint2D& v) const
     return {xx * v.x + xy * v.y, yx * v.x + yy * v.y};
 }
 
+double CPlacement::TurnedAngle(double angle) const
+{
+    constexpr double kTwoPi = 6.283185307179586;
+    if (xx == 1.0 && xy == 0.0 && yx == 0.0 && yy == 1.0) {
+        return angle;
+    }
+    const CPoint2D direction = Turned({std::cos(angle), std::sin(angle)});
+    const double turned = std::atan2(direction.y, direction.x);
+    return turned < 0 ? turned + kTwoPi : turned;
+}
+
 // The larger of the two singular values.
 double CPlacement::GreatestScale() const
 {

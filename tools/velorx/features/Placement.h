@@ -28,6 +28,10 @@ public:
     /// A direction: not moved.
     VelorExchange::CPoint2D Turned(const VelorExchange::CPoint2D& v) const;
 
+    /// Where the direction `angle` points to. Both are radians, counter-clockwise; the result is 0 or above.
+    /// Exactly `angle` where nothing is placed.
+    double TurnedAngle(double angle) const;
+
     /// The factor on lengths in the direction in which it is greatest.
     double GreatestScale() const;
 
