@@ -2,6 +2,7 @@
 #include "tools/velorx/features/FeatureFormats.h"
 
 #include "tools/velorx/features/DxfFeatureSource.h"
+#include "tools/velorx/features/DxfFeatureTarget.h"
 #include "tools/velorx/features/FeatureTally.h"
 #include "tools/velorx/features/MifFeatureSource.h"
 #include "tools/velorx/features/MifFeatureTarget.h"
@@ -58,6 +59,7 @@ const std::vector<SSourceMaker>& Sources()
 const std::vector<STargetMaker>& Targets()
 {
     static const std::vector<STargetMaker> targets = {
+        {"DXF", Target<CDxfFeatureTarget>},
         {"SXF", SxfTarget<false>},
         {"SXF text", SxfTarget<true>},
         {"MIF", Target<CMifFeatureTarget>},
