@@ -153,6 +153,18 @@ TEST(LineStyleFile, TextWithoutLettersIsNotAppended)
     EXPECT_EQ(Pattern("1,[\"ABC,ST]"), "1"); // the quote is never closed
 }
 
+TEST(LineStyleFile, TextStandsBetweenTheFirstTwoQuotes)
+{
+    EXPECT_EQ(Pattern("[x\"AB\"yz\"C\",ST]"), "text AB in ST rel r0 s1 x0 y0");
+}
+
+TEST(LineStyleFile, LaterTextStandsAlsoWhereItIsEmpty)
+{
+    EXPECT_EQ(Pattern("1,[\"A\",\"B\",ST]"), "1 | text B in ST rel r0 s1 x0 y0");
+    EXPECT_EQ(Pattern("1,[\"A\",\"\",ST]"), "1");
+    EXPECT_EQ(Pattern("1,[\"A\",\"B,ST]"), "1 | text A in ST rel r0 s1 x0 y0");
+}
+
 TEST(LineStyleFile, TextWithACommaIsCutByIt)
 {
     EXPECT_EQ(Pattern("1,[\"A,B\",ST]"), "1");
@@ -235,6 +247,12 @@ TEST(LineStyleFile, ShapeIsLookedUpByItsExactName)
     EXPECT_EQ(Pattern("1,[box,ltypeshp.shx,S=2]", shapes.Path()), "1");
     EXPECT_EQ(Pattern("1,[BOX,LTYPESHP.SHX,S=2]", shapes.Path()), box);
     EXPECT_EQ(Pattern("1,[a.shxBOX]", shapes.Path()), "1");
+}
+
+TEST(LineStyleFile, PartWithAKeyOrAFileNamesNoShape)
+{
+    const CTextFile shapes("*130,6,S=2\n*131,6,my.shx\n");
+    EXPECT_EQ(Pattern("1,[S=2,my.shx]", shapes.Path()), "1");
 }
 
 TEST(LineStyleFile, ShapeWithoutASourceIsLeftOut)

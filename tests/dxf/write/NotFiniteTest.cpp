@@ -366,6 +366,17 @@ TEST(NotFinite, KnownStylesAreNotLookedAtAgain)
     drawing.Bytes();
 }
 
+TEST(NotFinite, TextStyleThatIsNotWrittenIsNotLookedAt)
+{
+    const CDrawing drawing;
+    CMTextDXF text = Good<CMTextDXF>();
+    drawing->AddMText(text);
+    text.style.height = kNan; // known by now
+    EXPECT_TRUE(drawing->AddMText(text));
+    text.style.name = QStringLiteral(" ");
+    EXPECT_TRUE(drawing->AddMText(text));
+}
+
 TEST(NotFinite, StylesOfTheirOwnGiveNoHandle)
 {
     CDrawing drawing;
