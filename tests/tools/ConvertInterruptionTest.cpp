@@ -34,10 +34,10 @@ bool IsUnderWay(const std::string& folder)
 class CInterrupted
 {
 public:
-    explicit CInterrupted(int signal)
+    explicit CInterrupted(int signal, const std::string& name = "a.dxf")
     {
         const std::string source = in.Write("a.dxf", LargeDrawing(kManyPoints));
-        target = out.Write("a.dxf", "old");
+        target = out.Write(name, "old");
         CRunningVelorx run({"convert", "--force", source, target}, temporary.path);
         while (run.IsAlive() && !IsUnderWay(out.path)) {
             std::this_thread::sleep_for(std::chrono::milliseconds(1));
@@ -80,6 +80,22 @@ TEST(ConvertInterruption, ARequestToEndRemovesWhatWasBegun)
         EXPECT_EQ(ReadFile(run.target), "old");
         EXPECT_EQ(NamesIn(run.out.path), Strings({"a.dxf"}));
         EXPECT_EQ(NamesIn(run.temporary.path), Strings());
+    }
+}
+
+TEST(ConvertInterruption, HoldsForThePairAndForMapsToo)
+{
+    for (const char* name : {"a.mif", "a.sxf", "a.txt"}) {
+        for (const int signal : {SIGKILL, SIGTERM}) {
+            SCOPED_TRACE(std::string(name) + " " + std::to_string(signal));
+            const CInterrupted run(signal, name);
+            EXPECT_EQ(run.endedBy, signal);
+            EXPECT_EQ(ReadFile(run.target), "old");
+            if (signal == SIGTERM) {
+                EXPECT_EQ(NamesIn(run.out.path), Strings({name}));
+                EXPECT_EQ(NamesIn(run.temporary.path), Strings());
+            }
+        }
     }
 }
 
