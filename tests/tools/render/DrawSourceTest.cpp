@@ -120,6 +120,37 @@ TEST_F(DrawSource, SvgIsWellFormedAndOfTheSizeOfTheJob)
     EXPECT_FALSE(xml.hasError()) << xml.errorString().toStdString();
 }
 
+TEST_F(DrawSource, SvgOfVeryManyLettersKeepsThemAsText)
+{
+    CHandSource source([](IFeatureSink& sink) {
+        STextFeature text = Text("", 0, 0);
+        text.text = QString(1000, QLatin1Char('H'));
+        for (int i = 0; i <= 50; ++i) {
+            text.position.y = i * 40;
+            sink.Take(text);
+        }
+    });
+    EXPECT_EQ(velorx::DrawSource(source, Job("a.svg", EPictureFormat::Svg), report), "");
+    EXPECT_NE(Content("a.svg").find("<text "), std::string::npos);
+    ASSERT_EQ(report.remarks.size(), 1U);
+    EXPECT_NE(report.remarks[0].indexOf(QLatin1String("as the fonts of the viewer")), -1);
+}
+
+TEST_F(DrawSource, SvgThatWouldBeTooLargeIsRefused)
+{
+    CHandSource source([](IFeatureSink& sink) {
+        CFeatureLine zigzag;
+        for (int i = 0; i < 100000; ++i) {
+            zigzag.push_back({i * 0.001, i % 2 * 50.0, 0});
+        }
+        for (int i = 0; i < 220; ++i) {
+            sink.Take(Line(zigzag));
+        }
+    });
+    EXPECT_EQ(velorx::DrawSource(source, Job("a.svg", EPictureFormat::Svg), report),
+              "an SVG picture of it would be too large; .png and .pdf have no limit");
+}
+
 TEST_F(DrawSource, PdfIsAPageWithItsFonts)
 {
     CHandSource source(Square);

@@ -49,6 +49,17 @@ TEST_F(PictureExtents, OfNothingAreEmpty)
     EXPECT_TRUE(extents.Box().isEmpty);
 }
 
+TEST_F(PictureExtents, CountTheWidthOfABand)
+{
+    SLineFeature line = Line({{0, 0, 0}, {2, 3, 0}});
+    line.stroke.planWidth = 2;
+    extents.Take(line);
+    SAreaFeature area = RedArea({Rectangle(0, 0, 1, 1)}); // its outline does not show
+    area.stroke.planWidth = 100;
+    extents.Take(area);
+    ExpectBox(-1, -1, 3, 4);
+}
+
 TEST_F(PictureExtents, CountTheWholeText)
 {
     STextFeature text = Text("HHHH", 10, 10);

@@ -136,7 +136,7 @@ TEST_F(RenderCommand, HiddenLayerShowsOnlyIfAskedFor)
     EXPECT_NE(all.out.find("objects are on layers that are off or frozen"), std::string::npos);
     const SRun one = RunVelorx({"render", kPlan, Path("one.png"), "--layers", "Проект"});
     EXPECT_EQ(one.exitCode, 0);
-    EXPECT_EQ(one.out.find("off or frozen"), std::string::npos) << one.out;
+    EXPECT_EQ(one.out.find("are on layers that are off"), std::string::npos) << one.out;
     EXPECT_EQ(one.out.find("the picture is empty"), std::string::npos) << one.out;
 }
 

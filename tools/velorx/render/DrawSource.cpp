@@ -16,13 +16,19 @@ namespace {
 constexpr double kThinnestOnScreen = 1.0;
 constexpr double kThinnestOnPaper = 0.5;
 
-SPictureStyle StyleFor(const SPictureJob& job)
+// Outlines of more letters would make a file that no program likes to open.
+constexpr qint64 kMostOutlines = 50'000;
+constexpr double kMostSvg = 300e6; // characters, which stay in memory until the end
+
+SPictureStyle StyleFor(const SPictureJob& job, qint64 letters)
 {
+    const bool isSvg = job.format == EPictureFormat::Svg;
     SPictureStyle style;
     style.background = job.background;
     style.thinnest = job.format == EPictureFormat::Png ? kThinnestOnScreen : kThinnestOnPaper;
     // A document holds its fonts; any other picture would be at the mercy of those of its viewer.
-    style.keepsText = job.format == EPictureFormat::Pdf;
+    style.keepsText = job.format == EPictureFormat::Pdf || (isSvg && letters > kMostOutlines);
+    style.mostWeight = isSvg ? kMostSvg : 0.0;
     return style;
 }
 
@@ -64,12 +70,21 @@ QString DrawSource(IFeatureSource& source, const SPictureJob& job, CConversionRe
     }
     const CPictureView view(box, size);
     CFeatureTally tally;
-    CPictureSink sink(device.Painter(), view, StyleFor(job), layers, tally);
+    const SPictureStyle style = StyleFor(job, extents.Letters());
+    CPictureSink sink(device.Painter(), view, style, layers, tally);
     problem = source.Read(sink, tally);
     if (!problem.isEmpty()) {
         return problem;
     }
+    if (sink.IsOverfull()) {
+        return QStringLiteral(
+            "an SVG picture of it would be too large; .png and .pdf have no limit");
+    }
     AddRemarks(sink, layers, tally);
+    if (style.keepsText && job.format == EPictureFormat::Svg) {
+        tally.Remark(QStringLiteral(
+            "There are too many letters to draw: texts look as the fonts of the viewer do"));
+    }
     report.log =
         QStringLiteral("%1: %2 x %3 pixels").arg(job.name).arg(size.width()).arg(size.height());
     tally.FillReport(report);

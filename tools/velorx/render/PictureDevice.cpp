@@ -2,6 +2,7 @@
 #include "tools/velorx/render/PictureDevice.h"
 
 #include <QBuffer>
+#include <QFileInfo>
 #include <QImage>
 #include <QPageLayout>
 #include <QPdfWriter>
@@ -34,7 +35,7 @@ std::unique_ptr<QPaintDevice> MakeSvg(const SPictureJob& job, const QSize& size,
     svg->setResolution(static_cast<int>(kPixelsPerInch));
     svg->setSize(size);
     svg->setViewBox(QRect(QPoint(0, 0), size));
-    svg->setTitle(job.name);
+    svg->setTitle(QFileInfo(job.name).fileName());
     return svg;
 }
 
@@ -46,7 +47,7 @@ std::unique_ptr<QPaintDevice> MakePdf(const SPictureJob& job, const QSize& size,
     pdf->setPageLayout(
         {QPageSize(QSizeF(size) * points, QPageSize::Point, QString(), QPageSize::ExactMatch),
          QPageLayout::Portrait, QMarginsF()});
-    pdf->setTitle(job.name);
+    pdf->setTitle(QFileInfo(job.name).fileName());
     return pdf;
 }
 

@@ -31,6 +31,17 @@ SPlanBox BoxOf(const CFeatureLine& points)
     return box;
 }
 
+// With the half of a wide line that lies beyond its axis.
+SPlanBox Widened(SPlanBox box, const SFeatureStroke& stroke)
+{
+    const double half = stroke.isVisible ? stroke.planWidth / 2 : 0.0;
+    if (!box.isEmpty && half > 0 && IsDrawable(half)) {
+        box.Add(box.left - half, box.bottom - half);
+        box.Add(box.right + half, box.top + half);
+    }
+    return box;
+}
+
 // Of the nearest point of `box`, in the greater of both directions.
 double DistanceFrom(double x, double y, const SPlanBox& box)
 {
@@ -126,7 +137,7 @@ const char* CPictureExtents::Take(const SPointFeature& point)
 const char* CPictureExtents::Take(const SLineFeature& line)
 {
     if (IsDrawn(line)) {
-        Add(BoxOf(line.points));
+        Add(Widened(BoxOf(line.points), line.stroke));
     }
     return nullptr;
 }
@@ -138,7 +149,7 @@ const char* CPictureExtents::Take(const SAreaFeature& area)
         box.Add(BoxOf(ring));
     }
     if (IsDrawn(area)) {
-        Add(box);
+        Add(Widened(box, area.stroke));
     }
     return nullptr;
 }
@@ -146,6 +157,7 @@ const char* CPictureExtents::Take(const SAreaFeature& area)
 const char* CPictureExtents::Take(const STextFeature& text)
 {
     if (IsDrawn(text)) {
+        letters += text.text.size();
         Add(CTextLayout(text).Box());
     }
     return nullptr;

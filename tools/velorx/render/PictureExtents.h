@@ -25,6 +25,9 @@ public:
     const char* Take(const STextFeature& text) override;
     const char* Take(const SImageFeature& image) override;
 
+    /// How many letters texts have that are drawn.
+    qint64 Letters() const { return letters; }
+
     /// Once all has been taken. Empty if there is nothing to show.
     SPlanBox Box();
 
@@ -42,6 +45,7 @@ private:
     void Sort(const SPlanBox& box);
 
     CLayerChoice& layers;
+    qint64 letters = 0;
     std::vector<SPlanBox> first; ///< Until the middle is known.
     bool hasMiddle = false;
     double middleX = 0.0;

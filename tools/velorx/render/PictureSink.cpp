@@ -9,8 +9,6 @@
 #include "tools/velorx/render/StrokeLine.h"
 #include "tools/velorx/render/SymbolMark.h"
 
-#include <QPainter>
-
 #include <algorithm>
 #include <cmath>
 
@@ -47,7 +45,7 @@ bool CPictureSink::IsAsked(const SFeature& feature)
     } else if (verdict == CLayerChoice::EVerdict::NotAsked) {
         tally.Lose(QStringLiteral("objects are on layers that were not asked for"));
     }
-    return verdict == CLayerChoice::EVerdict::Drawn;
+    return verdict == CLayerChoice::EVerdict::Drawn && !IsOverfull();
 }
 
 bool CPictureSink::IsInside(const SFeature& feature, const CPixelLine& corners)
@@ -107,9 +105,7 @@ void CPictureSink::Stroke(const CPixelLine& points, const SFeatureStroke& stroke
     const QPen pen = PenFor(stroke);
     const double reach = pen.widthF() * 2;
     const CDashes dashes = DashesOf(stroke);
-    painter.setPen(pen);
-    painter.setBrush(Qt::NoBrush);
-    CPiecePainter pieces(painter);
+    CPiecePainter pieces(painter, pen);
     CutLine(points, dashes, view.Frame().adjusted(-reach, -reach, reach, reach), budget,
             [&pieces](const QLineF& piece) { pieces.Add(piece); });
 }
@@ -134,9 +130,9 @@ const char* CPictureSink::Take(const SPointFeature& point)
     const QColor colour = colours.Line(point.symbol.color);
     const QPainterPath outline = mark.outline.translated(place.front());
     if (mark.isFilled) {
-        painter.fillPath(outline, colour);
+        painter.Fill(outline, colour);
     } else {
-        painter.strokePath(outline, QPen(colour, style.thinnest));
+        painter.Stroke(outline, QPen(colour, style.thinnest));
     }
     return Done("mark");
 }

@@ -4,6 +4,7 @@
 #include "tools/velorx/features/IFeatureSink.h"
 #include "tools/velorx/render/Dashes.h"
 #include "tools/velorx/render/LayerChoice.h"
+#include "tools/velorx/render/PathPainter.h"
 #include "tools/velorx/render/PictureColours.h"
 #include "tools/velorx/render/PictureView.h"
 
@@ -23,6 +24,7 @@ struct SPictureStyle
 {
     quint32 background = 0xFFFFFFFF; ///< 0xAARRGGBB.
     double thinnest = 1.0; ///< Width of the thinnest line, pixels.
+    double mostWeight = 0.0; ///< Of `Weight`, beyond which nothing is drawn; 0 for no limit.
     bool keepsText = false; ///< Texts are written as such, not as outlines of letters.
 };
 
@@ -43,11 +45,17 @@ public:
     const char* Take(const STextFeature& text) override;
     const char* Take(const SImageFeature& image) override;
 
-    /// How much was drawn.
+    /// How many features were drawn.
     qint64 Drawn() const { return drawn; }
+
+    /// About how many characters it takes to write the picture down.
+    double Weight() const { return painter.Weight(); }
 
     /// Whether lines are drawn without their dashes, or patterns as tints, for want of pieces.
     bool IsSimplified() const { return budget.isExceeded; }
+
+    /// Whether the picture has grown beyond `SPictureStyle::mostWeight`.
+    bool IsOverfull() const { return style.mostWeight > 0 && Weight() > style.mostWeight; }
 
 private:
     bool IsAsked(const SFeature& feature);
@@ -62,7 +70,7 @@ private:
     void Label(const SImageFeature& image, const CPixelLine& ring);
     const char* Done(const char* as);
 
-    QPainter& painter;
+    CPathPainter painter;
     const CPictureView& view;
     SPictureStyle style;
     CPictureColours colours;

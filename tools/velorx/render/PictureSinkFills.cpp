@@ -4,8 +4,6 @@
 #include "tools/velorx/render/PictureSink.h"
 #include "tools/velorx/render/StrokeLine.h"
 
-#include <QPainter>
-
 #include <algorithm>
 
 namespace velorx {
@@ -43,10 +41,10 @@ double ShorterExtent(const std::vector<CPixelLine>& rings)
 void CPictureSink::Fill(const std::vector<CPixelLine>& rings, const SFeatureFill& fill)
 {
     if (fill.kind == EFeatureFill::Solid) {
-        painter.fillPath(PathOf(rings), colours.Area(fill.color));
+        painter.Fill(PathOf(rings), colours.Area(fill.color));
     } else if (fill.kind == EFeatureFill::Pattern) {
         if (fill.hasBackground) {
-            painter.fillPath(PathOf(rings), colours.Area(fill.background));
+            painter.Fill(PathOf(rings), colours.Area(fill.background));
         }
         Hatch(rings, fill);
     }
@@ -57,13 +55,11 @@ void CPictureSink::Hatch(const std::vector<CPixelLine>& rings, const SFeatureFil
     QPen pen(colours.Line(fill.color));
     pen.setWidthF(style.thinnest);
     pen.setCapStyle(Qt::FlatCap);
-    painter.setPen(pen);
-    painter.setBrush(Qt::NoBrush);
     for (const SHatchFamily& family : HatchFamilies(fill, view, ShorterExtent(rings))) {
-        CPiecePainter pieces(painter);
+        CPiecePainter pieces(painter, pen);
         if (!CutHatch(rings, family, budget, [&pieces](const QLineF& piece) { pieces.Add(piece); }))
         {
-            painter.fillPath(PathOf(rings), colours.Tint(fill.color));
+            painter.Fill(PathOf(rings), colours.Tint(fill.color));
             return;
         }
     }

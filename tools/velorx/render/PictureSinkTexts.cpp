@@ -5,7 +5,6 @@
 #include "tools/velorx/render/PictureSink.h"
 #include "tools/velorx/render/TextLayout.h"
 
-#include <QPainter>
 #include <QPainterPath>
 
 #include <algorithm>
@@ -29,11 +28,7 @@ void CPictureSink::Write(const CTextLayout& layout, const QColor& colour, bool i
         const QTransform transform = layout.Transform(line, view);
         QPainterPath outline;
         if (style.keepsText) {
-            painter.setPen(colour);
-            painter.setFont(layout.Font());
-            painter.setTransform(transform);
-            painter.drawText(QPointF(0, 0), line.text);
-            painter.resetTransform();
+            painter.Write(line.text, layout.Font(), transform, colour);
         } else {
             outline.addText(QPointF(0, 0), layout.Font(), line.text);
         }
@@ -41,7 +36,7 @@ void CPictureSink::Write(const CTextLayout& layout, const QColor& colour, bool i
             outline.addRect(layout.Underline(line));
         }
         outline.setFillRule(Qt::WindingFill);
-        painter.fillPath(transform.map(outline), colour);
+        painter.Fill(transform.map(outline), colour);
     }
 }
 

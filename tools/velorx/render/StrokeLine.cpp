@@ -2,8 +2,7 @@
 #include "tools/velorx/render/StrokeLine.h"
 
 #include "tools/velorx/render/Clipping.h"
-
-#include <QPainter>
+#include "tools/velorx/render/PathPainter.h"
 
 #include <cmath>
 #include <cstddef>
@@ -76,9 +75,7 @@ void CPiecePainter::Add(const QLineF& piece)
 
 void CPiecePainter::Flush()
 {
-    if (!path.isEmpty()) {
-        painter.drawPath(path);
-    }
+    painter.Stroke(path, pen);
     path = QPainterPath();
 }
 

@@ -5,23 +5,30 @@
 #include "tools/velorx/render/PictureView.h"
 
 #include <QPainterPath>
+#include <QPen>
 #include <QRectF>
 
-class QPainter;
+#include <utility>
 
 namespace velorx {
+
+class CPathPainter;
 
 /// Hands on what is drawn within `frame` of a line along `points`, in order. Its dashes run on around
 /// corners. A line without length is handed on as a dot.
 void CutLine(const CPixelLine& points, const CDashes& dashes, const QRectF& frame,
              SPieceBudget& budget, const CTakePiece& take);
 
-/// Draws pieces with the pen of a painter, those that meet end to end as one line, and
+/// Draws pieces with a pen, those that meet end to end as one line, and
 /// as a closed one where it comes back to its start.
 class CPiecePainter
 {
 public:
-    explicit CPiecePainter(QPainter& piecePainter) : painter(piecePainter) { }
+    /// `pathPainter` outlives this object.
+    CPiecePainter(CPathPainter& pathPainter, QPen piecePen)
+        : painter(pathPainter), pen(std::move(piecePen))
+    {
+    }
     CPiecePainter(const CPiecePainter&) = delete;
     CPiecePainter(CPiecePainter&&) = delete;
     CPiecePainter& operator=(const CPiecePainter&) = delete;
@@ -35,7 +42,8 @@ public:
 private:
     void Flush();
 
-    QPainter& painter;
+    CPathPainter& painter;
+    QPen pen;
     QPainterPath path;
     QPointF start; ///< Of the part of `path` in hand.
 };

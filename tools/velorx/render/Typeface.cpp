@@ -62,10 +62,15 @@ QString Pick(const QString& name)
 
 QString PickTypeface(const QString& name)
 {
-    static QHash<QString, QString> picked; // asking the system takes long; one thread draws
+    constexpr int kMostNames = 200;
+    // Asking the system takes long, so there is an end to it. One thread draws.
+    static QHash<QString, QString> picked = {{QString(), PlainTypeface()}};
     const QString key = WithoutEnding(name.trimmed());
     const auto found = picked.constFind(key);
-    return found != picked.constEnd() ? *found : *picked.insert(key, Pick(key));
+    if (found != picked.constEnd()) {
+        return *found;
+    }
+    return picked.size() < kMostNames ? *picked.insert(key, Pick(key)) : PickTypeface(QString());
 }
 
 } // namespace velorx
