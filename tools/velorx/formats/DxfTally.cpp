@@ -36,7 +36,7 @@ void CDxfTally::SLoss::Add(const QString& layer, qint64 more)
 {
     count += more;
     if (!layer.isEmpty()) {
-        layers[layer] += more;
+        layers.try_emplace(layer.toCaseFolded(), layer, 0).first->second.second += more;
     }
 }
 
@@ -55,7 +55,11 @@ void CDxfTally::Unread(const std::string& what, const QString& layer)
 
 void CDxfTally::AddTo(CConversionReport& report, const QString& what, const SLoss& loss)
 {
-    report.losses.push_back({what, loss.count, {loss.layers.begin(), loss.layers.end()}});
+    SConversionLoss row = {what, loss.count, {}};
+    for (const auto& entry : loss.layers) {
+        row.layers.push_back(entry.second);
+    }
+    report.losses.push_back(row);
 }
 
 // An arc whose angles are equal comes as a circle, so that the two are one here.

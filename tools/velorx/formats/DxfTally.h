@@ -11,6 +11,7 @@
 #include <cstddef>
 #include <map>
 #include <string>
+#include <utility>
 
 namespace velorx {
 
@@ -43,7 +44,8 @@ private:
     struct SLoss
     {
         qint64 count = 0;
-        std::map<QString, qint64> layers;
+        std::map<QString, std::pair<QString, qint64>>
+            layers; ///< As first spelled, by the name without case.
 
         void Add(const QString& layer, qint64 more);
     };
