@@ -75,6 +75,25 @@ TEST_F(ConvertSxf, DemoDrawingBecomesObjectsOfEachKindOnItsLayers)
     EXPECT_NE(layers.find(R"("Горизонтали":20)"), std::string::npos) << layers;
 }
 
+TEST_F(ConvertSxf, MapBecomesADrawingAndComesBack)
+{
+    const std::string binary = Convert(kDrawing, Path("plan.sxf"));
+    Convert(Path("plan.sxf"), Path("plan.dxf"));
+    EXPECT_EQ(Convert(Path("plan.dxf"), Path("back.sxf")), binary)
+        << "outlines do not become more on the way";
+}
+
+TEST_F(ConvertSxf, TextFormBecomesADrawing)
+{
+    Convert(folder.Write("map.txt", kTextMap), Path("map.dxf"));
+    const std::string drawing = ReadFile(Path("map.dxf"));
+    for (const char* part : {"\r\nPOLYLINE\r\n", "\r\nPOINT\r\n", "\r\nTEXT\r\n", "\r\nword\r\n",
+                             "\r\nroads\r\n", "\r\nnames\r\n", "Lake"})
+    {
+        EXPECT_NE(drawing.find(part), std::string::npos) << part;
+    }
+}
+
 TEST_F(ConvertSxf, MapBecomesATableAndComesBack)
 {
     const std::string source = folder.Write("map.txt", kTextMap);

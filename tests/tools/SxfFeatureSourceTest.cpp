@@ -162,13 +162,15 @@ TEST_F(SxfFeatureSource, OtherLinesBehindAnAreaAreLines)
 
 TEST_F(SxfFeatureSource, VectorIsAPointWithADirection)
 {
-    ReadText(".OBJ 7 VEC\n2\n1 20\n2 21\n.OBJ 0 DOT\n1\n1 20\n");
-    ASSERT_EQ(recorder.points.size(), 2U);
+    ReadText(".OBJ 7 VEC\n2\n1 20\n2 21\n.OBJ 0 DOT\n1\n1 20\n.IMG 1\n_MARK 5\nSIZE 16000\n"
+             ".OBJ 0 DOT\n1\n1 20\n");
+    ASSERT_EQ(recorder.points.size(), 3U);
     EXPECT_DOUBLE_EQ(recorder.points[0].position.x, 20);
     EXPECT_DOUBLE_EQ(recorder.points[0].position.y, 1);
     EXPECT_DOUBLE_EQ(recorder.points[0].symbol.angle, 0.78539816339744828);
     EXPECT_EQ(recorder.points[0].symbol.size, 0);
-    EXPECT_NEAR(recorder.points[1].symbol.size, 2.83, 0.01) << "a ring of a millimetre";
+    EXPECT_NEAR(recorder.points[1].symbol.size, 5.67, 0.01) << "a ring of two millimetres";
+    EXPECT_EQ(recorder.points[2].symbol.size, 0) << "the mark of points without one";
     EXPECT_EQ(Losses(report), "1 vectors became points with a direction\n");
 }
 

@@ -54,6 +54,16 @@ void SetStroke(SFeatureStroke& stroke, const PnrLineImage& image)
     stroke.width = std::max(image.thickness, 0) / kMicrometres;
 }
 
+// In points; 0 for the mark that stands where nobody told one.
+double MarkSize(const PnrPointImage& image)
+{
+    const bool isRing = image.bits == kPnrRingMask;
+    if (isRing && image.size == PnrPointImage().size) {
+        return 0.0;
+    }
+    return image.size / kMicrometres * (isRing ? kRingShare : 1.0) * kPoints;
+}
+
 QString AttributeName(const PnrSemantic& semantic)
 {
     return semantic.name.isEmpty() ? QStringLiteral("S_%1").arg(semantic.code) : semantic.name;
@@ -210,10 +220,8 @@ void CSxfFeatures::Take(CPointObject& point)
     SPointFeature feature;
     FillHead(feature, point);
     if (point.image) {
-        const bool isRing = point.image->bits == kPnrRingMask;
         feature.symbol.color = static_cast<quint32>(point.image->color) & kColour;
-        feature.symbol.size =
-            point.image->size / kMicrometres * (isRing ? kRingShare : 1.0) * kPoints;
+        feature.symbol.size = MarkSize(*point.image);
     }
     feature.kind = kSxfPoint;
     for (const auto& contour : point.holders) {
