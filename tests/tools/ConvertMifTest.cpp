@@ -125,6 +125,31 @@ TEST_F(ConvertMif, TextOfADrawingIsPlainInATable)
     EXPECT_TRUE(Contains(File("out.mif"), "FONT (\"Arial\", 1, 0, 0)\n"));
 }
 
+TEST_F(ConvertMif, LayersOfATableAreLayersOfADrawing)
+{
+    const SRun run = Convert({Path("in.mif"), Path("out.dxf")});
+    EXPECT_EQ(run.exitCode, 0) << run.err;
+    const std::string drawing = File("out.dxf");
+    const std::string entities = drawing.substr(drawing.find("ENTITIES"));
+    EXPECT_TRUE(Contains(entities, "8\r\nWells\r\n"));
+    EXPECT_TRUE(Contains(entities, "8\r\nRoads\r\n"));
+    EXPECT_TRUE(Contains(run.out, "Region"));
+}
+
+TEST_F(ConvertMif, TextKeepsPlaceHeightAndAngleInADrawing)
+{
+    folder.Write("in.mif",
+                 std::string(kHeader)
+                     + "Columns 0\nData\nText\n\"\xC4\xEE\xEC\"\n10 20 40 30\nAngle 30\n");
+    EXPECT_EQ(Convert({"--precision", "2", Path("in.mif"), Path("out.dxf")}).exitCode, 0);
+    const std::string drawing = File("out.dxf");
+    for (const char* group : {"10\r\n10.00\r\n", "20\r\n20.00\r\n", "40\r\n6.90\r\n",
+                              "50\r\n30.00\r\n", "1\r\n\xC4\xEE\xEC\r\n"})
+    {
+        EXPECT_TRUE(Contains(drawing.substr(drawing.find("ENTITIES")), group)) << group;
+    }
+}
+
 TEST_F(ConvertMif, CodePageHoldsForBothFiles)
 {
     folder.Write("utf8.mif", std::string(kHeader) + "Columns 1\nA Char(9)\nData\nPoint 1 2\n");

@@ -274,6 +274,45 @@ def check_corpus():
         expect(same_features(source, target) == count, table)
 
 
+def check_to_drawing():
+    """Points, lines and outlines of a table stand in the drawing where GDAL reads them in the table."""
+    make_pair(path("shapes.mif"))
+    convert(path("shapes.mif"), path("shapes.dxf"))
+    seen = [f for f in features(path("shapes.dxf")) if f["properties"]["Layer"] == "shapes"]
+    table = features(path("shapes.mif"))
+    for feature in table[:2]:
+        expect(vertices(feature["geometry"]) in [vertices(s["geometry"]) for s in seen], feature)
+    for feature in table[2:]:
+        polygons = feature["geometry"]["coordinates"]
+        for polygon in [polygons] if feature["geometry"]["type"] == "Polygon" else polygons:
+            for ring in polygon:
+                outline = vertices({"coordinates": ring})
+                expect(outline in [vertices(s["geometry"]) for s in seen], ring)
+    expect(len(seen) == 8, len(seen))
+
+
+def check_there_and_back():
+    """A drawing that became a table, a drawing and a table again is the same table."""
+    convert(plan, path("one.mif"))
+    convert(path("one.mif"), path("one.dxf"))
+    convert(path("one.dxf"), path("two.mif"))
+    expect(same_features(path("one.mif"), path("two.mif")) == 424)
+    labels = [collections.Counter(re.sub(r",c:#\w+", "", f["properties"]["STYLE"])
+                                  for f in features(path(name), True)
+                                  if "LABEL" in (f["properties"]["STYLE"] or ""))
+              for name in ("one.mif", "two.mif")]
+    expect(labels[0] == labels[1] and len(labels[0]) > 90, labels[0] - labels[1], len(labels[0]))
+    make_pair(path("shapes.mif"))
+    convert(path("shapes.mif"), path("shapes.dxf"))
+    convert(path("shapes.dxf"), path("again.mif"))
+    table, again = features(path("shapes.mif")), features(path("again.mif"))
+    expect([vertices(f["geometry"]) for f in table] == [vertices(f["geometry"]) for f in again])
+    expect([f["properties"]["name"] for f in again] == ["Дом; 5", "say a", "hole", "island"], again)
+    expect([f["properties"]["n"] for f in again] == ["1", "-2", "3", "4"], again)
+    areas = [[polygon_area(f["geometry"]) for f in fs[2:]] for fs in (table, again)]
+    expect(areas[0] == areas[1], areas)
+
+
 def check_drawings():
     """Drawings of other programs open in GDAL with the objects that the report counts."""
     if not os.path.isdir(os.path.join(corpus, "dxf")):
