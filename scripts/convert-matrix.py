@@ -8,7 +8,7 @@ and came out, what failed, and what independent programs say of the results.
 Each file goes into the three other formats, and from each result into the other three, which makes twelve ways
 whatever the file is. Without arguments the demo drawing is converted, and the real files that
 VELOREXCHANGE_CORPUS names. Results are opened by ogrinfo (DXF, MIF, SXF) and audited by ezdxf (DXF) where these
-are installed. The exit code is 1 if a conversion failed that should not, or a result does not open.
+are installed, and by `velorx check`. The exit code is 1 if a conversion failed that should not, or a result does not open.
 """
 import argparse
 import collections
@@ -92,6 +92,10 @@ class Matrix:
         told = json.loads(report.read_text(encoding="utf-8"))["files"][0] if report.exists() else {}
         error = told.get("error") or ("" if result.returncode == 0 else result.stderr.strip() or "crashed")
         complaints, seen = ([], None) if error else self.judge.opened(target)
+        if not error:
+            check = run(str(self.program), "check", str(target))
+            if check.returncode != 0:
+                complaints.append("check: " + " ".join(check.stdout.split("\n", 1)[-1].split())[:200])
         written = sum(map(int, LOGGED.findall(told.get("log", ""))))
         expected = written + ADDED.get(target.suffix, 0)
         if target.suffix in ADDED and seen is not None and written and seen != expected:
