@@ -71,6 +71,19 @@ TEST(CodedMText, IsPlainAgain)
     }
 }
 
+TEST(CodedMText, KeepsBlanksWhereTheWriterPartsIt)
+{
+    QString text(600, 'x');
+    for (const int at : {248, 249, 250, 251, 499, 500}) {
+        text[at] = ' ';
+    }
+    const QString coded = WithCodesAtSeams(text);
+    for (int i = 0; i < coded.size(); i += 250) {
+        EXPECT_EQ(coded.mid(i, 250).trimmed(), coded.mid(i, 250));
+    }
+    EXPECT_EQ(PlainOfMText(coded).text, text);
+}
+
 TEST(CodedMText, KeepsLines)
 {
     bool isWhole = true;

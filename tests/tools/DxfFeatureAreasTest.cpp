@@ -200,6 +200,14 @@ TEST(DxfFeatureAreas, ImageWithoutAFileIsListed)
     EXPECT_EQ(stream.Lost("images without a file, left out"), "1: ");
 }
 
+TEST(DxfFeatureAreas, ImageWithoutASizeIsListed)
+{
+    CDxfStream stream;
+    stream.Objects("0 IMAGEDEF, 5 AB, 1 site.jpg");
+    EXPECT_TRUE(stream.Entities("0 IMAGE, 8 A, 11 1, 22 1, 340 AB").Read().images.empty());
+    EXPECT_EQ(stream.Lost("IMAGE, without a size in pixels: left out"), "1: A 1");
+}
+
 TEST(DxfFeatureAreas, ClipOfAnImageIsInTheDrawing)
 {
     CDxfStream stream;

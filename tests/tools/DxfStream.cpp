@@ -123,7 +123,7 @@ std::string PointsOf(const CFeatureLine& line)
     std::string text;
     for (const CPoint3D& p : line) {
         text += (text.empty() ? "(" : " (") + NumberText(p.x) + ' ' + NumberText(p.y)
-            + (p.z != 0 ? ' ' + NumberText(p.z) : "") + ')';
+            + (NumberText(p.z) != "0" ? ' ' + NumberText(p.z) : "") + ')';
     }
     return text;
 }

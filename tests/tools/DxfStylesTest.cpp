@@ -41,6 +41,13 @@ TEST(DxfStyles, LayersAreFoundInAnyCaseAndTheFirstStands)
     EXPECT_EQ(styles.LayerName(""), "0");
 }
 
+TEST(DxfStyles, NamesOfLayersHaveTheLettersThatTheirCodesStandFor)
+{
+    CDxfTally counts;
+    const CDxfSurvey survey(counts);
+    EXPECT_EQ(CDxfStyles(survey).LayerName("\\U+0416x"), QStringLiteral("Жx"));
+}
+
 TEST(DxfStyles, LineTypesWithoutDashesKeepTheirName)
 {
     CDxfTally counts;

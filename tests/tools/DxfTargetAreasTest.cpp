@@ -208,8 +208,11 @@ TEST(DxfTargetAreas, ClipOfAnImageIsInPixels)
     EXPECT_TRUE(Has(drawing.Entities(),
                     "71 2\n91 4\n14 -0.500000\n24 99.500000\n14 199.500000\n24 -0.500000\n"
                     "14 -0.500000\n24 -0.500000\n"));
-    EXPECT_TRUE(drawing.ReadBack().images.empty());
-    EXPECT_EQ(drawing.LossesOfReading(), "1 IMAGE, without a size in pixels: left out\n");
+    const auto& read = drawing.ReadBack();
+    ASSERT_EQ(read.images.size(), 1U);
+    ASSERT_EQ(read.images[0].clip.size(), 3U);
+    EXPECT_NEAR(read.images[0].clip[1].x, 20, 1e-6);
+    EXPECT_NEAR(read.images[0].clip[1].y, 10, 1e-6);
 }
 
 TEST(DxfTargetAreas, WhatAnImageLosesIsListed)

@@ -69,10 +69,15 @@ std::string CDxfWritten::Entities()
 
 CFeatureRecorder& CDxfWritten::ReadBack()
 {
+    ReadBackTo(recorder);
+    return recorder;
+}
+
+void CDxfWritten::ReadBackTo(IFeatureSink& sink)
+{
     Bytes();
     CDxfFeatureSource source(folder.filePath("drawing.dxf"), SSourceOptions());
-    EXPECT_EQ(source.Read(recorder, tallyOfReading), QString());
-    return recorder;
+    EXPECT_EQ(source.Read(sink, tallyOfReading), QString());
 }
 
 std::string CDxfWritten::Lost(const char* what) const

@@ -40,6 +40,7 @@ public:
 
     /// The drawing as our own source reads it.
     CFeatureRecorder& ReadBack();
+    void ReadBackTo(IFeatureSink& sink);
 
     /// How often `what` was lost in writing, and on which layers: "2: Roads 1, Houses 1".
     std::string Lost(const char* what) const;

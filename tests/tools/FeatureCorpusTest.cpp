@@ -2,6 +2,9 @@
 // Real drawings that others made, as streams of features. The files are not part of the tree.
 #include "tests/support/Corpus.h"
 #include "tests/support/FeatureRecorder.h"
+#include "tests/tools/DxfStream.h"
+#include "tests/tools/DxfWritten.h"
+#include "tools/velorx/convert/SafeNames.h"
 #include "tools/velorx/features/DxfFeatureSource.h"
 #include "tools/velorx/features/FeatureTally.h"
 #include "tools/velorx/features/FiniteFeature.h"
@@ -13,7 +16,10 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <map>
+#include <string>
+#include <vector>
 
 namespace velorx::test {
 
@@ -82,6 +88,26 @@ void CheckCounts(const CConversionReport& report, const CCounts& features)
     }
 }
 
+// Every drawing of the folder that starts like one; false if there is none.
+template <class TCheck>
+int ForEachDrawing(TCheck check)
+{
+    QDirIterator files(CorpusFolder() + "/dxf", {"*.dxf"}, QDir::Files,
+                       QDirIterator::Subdirectories);
+    int count = 0;
+    while (files.hasNext()) {
+        const QString path = files.next();
+        QFile file(path);
+        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+        if (IsDxfContent(file.read(kHeadSize))) {
+            SCOPED_TRACE(path.toStdString());
+            check(path);
+            ++count;
+        }
+    }
+    return count;
+}
+
 void CheckDrawing(const QString& path, qint64& all)
 {
     CFeatureRecorder read;
@@ -103,31 +129,115 @@ void CheckDrawing(const QString& path, qint64& all)
     }
 }
 
+// Without vertices that lie on the one before them, which the library's reader leaves out.
+CFeatureLine Merged(const CFeatureLine& line)
+{
+    constexpr double kCoincident = 1e-8; // squared
+    CFeatureLine merged;
+    for (const auto& p : line) {
+        if (!merged.empty()) {
+            const auto& last = merged.back();
+            const double square = (p.x - last.x) * (p.x - last.x) + (p.y - last.y) * (p.y - last.y)
+                + (p.z - last.z) * (p.z - last.z);
+            if (square < kCoincident) {
+                merged.pop_back();
+            }
+        }
+        merged.push_back(p);
+    }
+    return merged;
+}
+
+// Features as lines of text.
+class CAsText final : public IFeatureSink
+{
+public:
+    CAsText() { layers.Define("DEFPOINTS", "Defpoints_1"); }
+
+    const char* Take(const SPointFeature& point) override
+    {
+        return Add(point, PointsOf({point.position}));
+    }
+    const char* Take(const SLineFeature& line) override
+    {
+        return Add(line, PointsOf(Merged(line.points)));
+    }
+    const char* Take(const SAreaFeature& area) override
+    {
+        std::vector<std::string> rings;
+        for (const CFeatureLine& ring : area.rings) {
+            rings.push_back(PointsOf(Merged(ring)));
+        }
+        std::sort(rings.begin(), rings.end());
+        std::string text = area.fill.kind == EFeatureFill::None ? "area" : "filled area";
+        for (const std::string& ring : rings) {
+            text += ", " + ring;
+        }
+        return Add(area, text);
+    }
+    const char* Take(const STextFeature& words) override
+    {
+        return Add(words, PointsOf({words.position}) + ' ' + words.text.toStdString());
+    }
+    const char* Take(const SImageFeature& image) override
+    {
+        return Add(image, image.path.toStdString() + ' ' + std::to_string(image.clip.size()));
+    }
+
+    std::vector<std::string> features;
+
+private:
+    const char* Add(const SFeature& feature, std::string text)
+    {
+        text += " on " + layers.Of(feature.layer).toStdString();
+        if (feature.attributes != nullptr) {
+            for (const SFeatureAttribute& attribute : *feature.attributes) {
+                text += ", " + attribute.name.toStdString() + '='
+                    + attribute.value.toString().toStdString();
+            }
+        }
+        features.push_back(std::move(text));
+        return "text";
+    }
+
+    CSafeNames layers; ///< Their spelling in drawings that we write.
+};
+
+void CheckCopy(const QString& path)
+{
+    CAsText before;
+    CAsText after;
+    CFeatureTally tally;
+    CDxfWritten copy;
+    CDxfFeatureSource source(path, SSourceOptions());
+    source.Read(before, tally);
+    source.Read(*copy, tally);
+    copy.ReadBackTo(after);
+    ASSERT_EQ(before.features.size(), after.features.size());
+    for (std::size_t i = 0; i < before.features.size(); ++i) {
+        EXPECT_EQ(before.features[i], after.features[i]) << "feature " << i;
+    }
+}
+
 } // namespace
 
 TEST(FeatureCorpus, EveryDrawingIsReadAndNothingGetsLostInSilence)
 {
-    QDirIterator files(CorpusFolder() + "/dxf", {"*.dxf"}, QDir::Files,
-                       QDirIterator::Subdirectories);
-    int count = 0;
     qint64 features = 0;
-    while (files.hasNext()) {
-        const QString path = files.next();
-        QFile file(path);
-        ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-        if (!IsDxfContent(file.read(kHeadSize))) {
-            continue;
-        }
-        SCOPED_TRACE(path.toStdString());
-        CheckDrawing(path, features);
-        ++count;
-    }
+    const int count = ForEachDrawing([&](const QString& path) { CheckDrawing(path, features); });
     if (count == 0) {
         GTEST_SKIP() << "no corpus at " << CorpusFolder().toStdString();
     }
     EXPECT_GT(count, 100);
     EXPECT_GT(features, 10000);
-    RecordProperty("features", std::to_string(features));
+}
+
+TEST(FeatureCorpus, EveryDrawingComesBackFromItsCopy)
+{
+    const int count = ForEachDrawing([](const QString& path) { CheckCopy(path); });
+    if (count == 0) {
+        GTEST_SKIP() << "no corpus at " << CorpusFolder().toStdString();
+    }
 }
 
 } // namespace velorx::test

@@ -84,4 +84,17 @@ QString CodedMText(const QString& plain, bool& isWhole)
     return TextForDrawing(coded, isWhole);
 }
 
+QString WithCodesAtSeams(QString coded)
+{
+    constexpr int kPart = 250;
+    const QString code = QStringLiteral("\\U+0020");
+    for (int i = 1; i < coded.size(); ++i) {
+        const bool isAtSeam = i % kPart == 0 || i % kPart == kPart - 1;
+        if (isAtSeam && coded.at(i) == u' ' && coded.at(i - 1) != u'^') {
+            coded.replace(i, 1, code);
+        }
+    }
+    return coded;
+}
+
 } // namespace velorx

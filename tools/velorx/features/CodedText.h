@@ -13,4 +13,8 @@ QString CodedText(const QString& plain, bool& isWhole);
 /// The same for an MTEXT, where line feeds are codes and blanks stay as they are.
 QString CodedMText(const QString& plain, bool& isWhole);
 
+/// `coded` for an MTEXT with codes for the blanks at which the writer parts it, every 250 characters: a reader
+/// takes blanks off each part.
+QString WithCodesAtSeams(QString coded);
+
 } // namespace velorx

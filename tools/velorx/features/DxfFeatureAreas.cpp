@@ -35,23 +35,27 @@ bool IsAtEdge(double pixel, double size)
     return std::fabs(pixel + kHalfPixel) < kNear || std::fabs(pixel + kHalfPixel - size) < kNear;
 }
 
-// The ring of what is shown, none for all of the picture.
+// Without a closing vertex; none for the frame of all of the picture.
+std::vector<CPoint3D> ClipRing(std::vector<CPoint3D> clip, const SImageFeature& image)
+{
+    constexpr std::size_t kCorners = 4;
+    DropRepeats(clip);
+    const bool isAll =
+        clip.size() == kCorners
+        && std::all_of(clip.begin(), clip.end(), [&image](const CPoint3D& pixel) {
+               return IsAtEdge(pixel.x, image.widthPixels) && IsAtEdge(pixel.y, image.heightPixels);
+           });
+    return isAll ? std::vector<CPoint3D>() : clip;
+}
+
+// What is shown, in the drawing.
 void FillClip(SImageFeature& image, const std::vector<CPoint3D>& clip)
 {
-    const bool isAll = std::all_of(clip.begin(), clip.end(), [&image](const CPoint3D& pixel) {
-        return IsAtEdge(pixel.x, image.widthPixels) && IsAtEdge(pixel.y, image.heightPixels);
-    });
-    for (const CPoint3D& pixel : isAll ? std::vector<CPoint3D>() : clip) {
+    for (const CPoint3D& pixel : ClipRing(clip, image)) {
         const double right = (pixel.x + kHalfPixel) / image.widthPixels;
         const double down = (pixel.y + kHalfPixel) / image.heightPixels;
         image.clip.push_back(
             Along(Along(image.origin, image.along, right), image.across, 1 - down));
-    }
-    const auto isEnd = [&image](const CPoint2D& end) {
-        return end.x == image.clip.front().x && end.y == image.clip.front().y;
-    };
-    if (image.clip.size() > 1 && isEnd(image.clip.back())) {
-        image.clip.pop_back();
     }
 }
 
@@ -166,7 +170,8 @@ bool CDxfFeatureReader::OnHatch(const CHatchDXF& record)
     return true;
 }
 
-// Where a picture does not tell its size, a rectangle that it is clipped to stands for it. Pixels are counted
+// Where an image does not tell its size, that of the picture's file stands for it, or a rectangle that it is
+// clipped to. Pixels are counted
 // from the middle of the upper left one, downwards.
 bool CDxfFeatureReader::OnImage(const CImageDXF& record)
 {
@@ -176,12 +181,15 @@ bool CDxfFeatureReader::OnImage(const CImageDXF& record)
     image.path = record.filePath;
     image.name = record.name;
     image.origin = record.origin;
-    image.widthPixels = record.widthPixels;
-    image.heightPixels = record.heightPixels;
+    const bool hasSize = record.widthPixels > 0 && record.heightPixels > 0;
+    const CPoint2D size = hasSize ? CPoint2D{record.widthPixels, record.heightPixels}
+                                  : survey.ImageSize(record.filePath);
+    image.widthPixels = size.x;
+    image.heightPixels = size.y;
     image.rotation = record.rotation;
     std::vector<CPoint3D> clip = record.clip;
     if (clip.size() == 2) {
-        if (!(image.widthPixels > 0) && !(image.heightPixels > 0)) {
+        if (size.x == 0.0) {
             image.widthPixels = std::max(clip[0].x, clip[1].x) + kHalfPixel;
             image.heightPixels = std::max(clip[0].y, clip[1].y) + kHalfPixel;
         }

@@ -170,7 +170,9 @@ bool CDxfFeatureReader::GivePolyline(const char* kind, const CPolylineDXF& polyl
             chords.AppendBulge(path, vertices[i].point, vertices[i - 1].bulge);
         }
     }
-    if (polyline.closed && vertices.size() > 1) {
+    const bool isBack =
+        !path.empty() && Coincide(path.front(), path.back()) && path.front().z == path.back().z;
+    if (polyline.closed && vertices.size() > 1 && !isBack) {
         chords.AppendBulge(path, vertices.front().point, vertices.back().bulge);
     }
     const double width = std::isfinite(polyline.width) ? std::fabs(polyline.width) : 0.0;

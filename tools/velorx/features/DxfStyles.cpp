@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "tools/velorx/features/DxfStyles.h"
 
+#include "tools/velorx/features/PlainText.h"
 #include "tools/velorx/formats/DxfSurvey.h"
 
 #include <boost/variant2/variant.hpp>
@@ -100,6 +101,9 @@ QString CDxfStyles::LayerName(const QString& name) const
 {
     if (name.isEmpty()) {
         return QStringLiteral("0");
+    }
+    if (name.contains(QLatin1String("\\U+")) || name.contains(QLatin1String("\\M+"))) {
+        return PlainOfText(name).text;
     }
     const auto found = layers.constFind(name.toCaseFolded());
     return found != layers.constEnd() ? found->name : name;

@@ -36,7 +36,7 @@ public:
 
     void Add(const VelorExchange::dxf::CLayerDXF& layer);
 
-    /// `name` as the table of layers spells it, "0" for an empty one.
+    /// `name` as the table of layers spells it, without codes for letters; "0" for an empty one.
     QString LayerName(const QString& name) const;
 
     /// The layer `name`, in any case; the constructor's values for one that is not in the table.

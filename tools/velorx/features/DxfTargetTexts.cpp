@@ -149,7 +149,7 @@ bool CDxfFeatureTarget::WriteInLines(const STextFeature& text)
     bool isWhole = true;
     const QString codes = Formats(text);
     const QString coded = CodedMText(text.text, isWhole);
-    record.text = codes.isEmpty() ? coded : u'{' + codes + coded + u'}';
+    record.text = WithCodesAtSeams(codes.isEmpty() ? coded : u'{' + codes + coded + u'}');
     if (!isWhole) {
         Changed(losses::kLetters, text.layer);
     }

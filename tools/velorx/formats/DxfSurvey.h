@@ -68,6 +68,10 @@ public:
     /// The file that the block `name`, in any case, stands for; empty for a block of the drawing's own.
     QString OutsideFile(const QString& name) const;
 
+    /// Width and height in pixels of the picture in the file `path`, as the reader delivers it; 0 where no
+    /// definition of an image tells them.
+    VelorExchange::CPoint2D ImageSize(const QString& path) const { return imageSizes.value(path); }
+
     /// Whether a section to be read stands behind the objects, behind which the reader does not look.
     bool AreObjectsAhead() const { return areObjectsAhead; }
 
@@ -89,6 +93,7 @@ private:
     void JudgeMLine();
     void FinishTableRecord();
     void FinishObject();
+    void AddImageSize();
     void JudgeLayer();
     void AddTextStyle();
     void AddMLineStyle();
@@ -129,6 +134,7 @@ private:
     QHash<QString, VelorExchange::CPoint3D>
         basePoints; ///< Those other than 0, by name without case.
     QHash<QString, QString> outsideFiles; ///< By name of the block without case.
+    QHash<QString, VelorExchange::CPoint2D> imageSizes; ///< By path.
     QHash<QString, CMLineStyleGroups> mlineStyles; ///< By name without case.
     QHash<QString, double> mlineScales; ///< By style name without case.
 };

@@ -2,6 +2,7 @@
 // What stands outside the entities and blocks: header, tables and objects.
 #include "tools/velorx/formats/DxfSurvey.h"
 
+#include <QFileInfo>
 #include <QStringList>
 
 #include <algorithm>
@@ -81,8 +82,19 @@ void CDxfSurvey::FinishObject()
 {
     if (Is("MLINESTYLE")) {
         AddMLineStyle();
+    } else if (Is("IMAGEDEF")) {
+        AddImageSize();
     } else if (!IsAmong(kObjectsKept, record)) {
         tally.Lose(EDxfLoss::OtherObjects);
+    }
+}
+
+void CDxfSurvey::AddImageSize()
+{
+    const QString path = QFileInfo(Decoded(groups.Text(1))).filePath();
+    const VelorExchange::CPoint2D size{groups.Number(10), groups.Number(20)};
+    if (size.x > 0 && size.y > 0 && !imageSizes.contains(path)) {
+        imageSizes.insert(path, size);
     }
 }
 
