@@ -18,7 +18,6 @@ constexpr double kThinnestOnPaper = 0.5;
 
 // Outlines of more letters would make a file that no program likes to open.
 constexpr qint64 kMostOutlines = 50'000;
-constexpr double kMostSvg = 300e6; // characters, which stay in memory until the end
 
 SPictureStyle StyleFor(const SPictureJob& job, qint64 letters)
 {
@@ -28,7 +27,7 @@ SPictureStyle StyleFor(const SPictureJob& job, qint64 letters)
     style.thinnest = job.format == EPictureFormat::Png ? kThinnestOnScreen : kThinnestOnPaper;
     // A document holds its fonts; any other picture would be at the mercy of those of its viewer.
     style.keepsText = job.format == EPictureFormat::Pdf || (isSvg && letters > kMostOutlines);
-    style.mostWeight = isSvg ? kMostSvg : 0.0;
+    style.mostWeight = isSvg ? job.mostSvg : 0.0;
     return style;
 }
 

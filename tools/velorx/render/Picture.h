@@ -29,6 +29,7 @@ struct SPictureJob
     int width = 0; ///< Pixels; 0 for a size that suits the drawing.
     int height = 0; ///< Pixels; 0 if and only if `width` is.
     quint32 background = 0xFFFFFFFF; ///< 0xAARRGGBB.
+    double mostSvg = 300e6; ///< Characters of an SVG picture, which stay in memory until the end.
     VelorExchange::dxf::IDXFProgress* progress = nullptr; ///< Not owned, can be null.
 };
 
