@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "tools/velorx/features/DxfStyles.h"
 
+#include "tests/tools/RunVelorx.h"
 #include "tools/velorx/formats/DxfSurvey.h"
 #include "tools/velorx/formats/DxfTally.h"
 
@@ -58,6 +59,21 @@ TEST(DxfStyles, LineTypesWithoutDashesKeepTheirName)
     ASSERT_NE(styles.LineType("Fence"), nullptr);
     EXPECT_EQ(styles.LineType("Fence")->name, "Fence");
     EXPECT_EQ(styles.LineType("FENCE"), styles.LineType("Fence"));
+}
+
+TEST(DxfStyles, DashesTakeTheScaleOfTheDrawing)
+{
+    const CTemporaryFolder folder;
+    const std::string path = folder.Write(
+        "plan.dxf",
+        "0\nSECTION\n2\nHEADER\n9\n$LTSCALE\n40\n2.5\n0\nENDSEC\n0\nSECTION\n2\nTABLES\n"
+        "0\nTABLE\n2\nLTYPE\n0\nLTYPE\n2\nFENCE\n49\n4\n49\n-2\n0\nENDTAB\n0\nENDSEC\n0\nEOF\n");
+    CDxfTally counts;
+    CDxfSurvey survey(counts);
+    ASSERT_TRUE(survey.Read(QString::fromStdString(path)));
+    CDxfStyles styles(survey);
+    ASSERT_NE(styles.LineType("Fence"), nullptr);
+    EXPECT_EQ(styles.LineType("Fence")->dashes, (std::vector<double>{10, -5}));
 }
 
 } // namespace velorx::test

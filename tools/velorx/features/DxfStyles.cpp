@@ -133,7 +133,7 @@ std::shared_ptr<const SFeatureLineType> CDxfStyles::LineType(const QString& name
         type->name = style->name;
         for (const CLineElementDXF& element : style->pattern) {
             if (const double* dash = boost::variant2::get_if<double>(&element)) {
-                type->dashes.push_back(*dash);
+                type->dashes.push_back(*dash * survey.LineTypeScale());
             }
         }
     }

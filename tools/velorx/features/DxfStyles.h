@@ -42,7 +42,8 @@ public:
     /// The layer `name`, in any case; the constructor's values for one that is not in the table.
     VelorExchange::dxf::CLayerDXF Layer(const QString& name) const;
 
-    /// The dashes of the line type `name`, in any case; null for a solid line.
+    /// The line type `name`, in any case, with its dashes as long as they are in the drawing; null for a
+    /// solid line.
     std::shared_ptr<const SFeatureLineType> LineType(const QString& name);
 
     /// The typeface of the text style `name`, in any case: that of the system which it names, else that in its
