@@ -152,6 +152,14 @@ TEST(DxfReplayTexts, InsertKeepsItsAttributes)
         "height=1 style.height=1 tag=\"EMPTY\"}]\n");
 }
 
+TEST(DxfReplayTexts, HiddenAttributeStaysHidden)
+{
+    const auto record = RecordsOf(
+        WithBlock("", "0 INSERT\n8 A\n2 B\n66 1\n0 ATTRIB\n8 A\n1 x\n2 T\n40 1\n70 1\n0 SEQEND\n"),
+        "ATTRIB");
+    EXPECT_TRUE(Has(record, "2 T\n70 1\n")) << record;
+}
+
 TEST(DxfReplayTexts, AttributeDefinitionKeepsAllThatTheWriterKnows)
 {
     const auto record = RecordsOf(

@@ -224,6 +224,7 @@ void CDxfReplay::Finish()
         tally.Lose(EDxfLoss::UnusedMLineStyles, QString(),
                    isOwn || drawnMLineStyles.contains(name) ? 0 : 1);
     }
+    tally.Lose(EDxfLoss::HiddenAttributes, QString(), survey.HiddenTags().Mixed());
     colours.AddLosses(tally);
     tally.Lose(EDxfLoss::Names, QString(),
                layerNames.Changed() + lineTypeNames.Changed() + textStyleNames.Changed()

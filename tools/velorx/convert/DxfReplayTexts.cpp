@@ -151,6 +151,7 @@ bool CDxfReplay::OnInsert(const CInsertDXF& record)
         const int horizontal = attribute.alignment;
         AdaptInOneLine(attribute);
         attribute.alignment = Alignment(horizontal);
+        attribute.hidden = survey.HiddenTags().IsHidden(record.name, attribute.tag);
         AdaptTag(attribute);
     }
     Adapt(insert.layer, insert.color);

@@ -173,8 +173,6 @@ private:
         constexpr int kClosed = 1;
         if (Is("INSERT")) {
             Lose(groups.Integer(70) > 1 || groups.Integer(71) > 1, EDxfLoss::InsertArrays);
-        } else if (Is("ATTRIB")) {
-            Lose((groups.Integer(70) & 1) != 0, EDxfLoss::HiddenAttributes);
         } else if (Is("SPLINE")) {
             Lose(groups.Varies(41), EDxfLoss::SplineWeights);
             Lose(groups.Has(10) && (groups.Has(11) || groups.Has(12) || groups.Has(13)),
