@@ -5,6 +5,7 @@
 #include "tests/support/LocaleCodec.h"
 #include "tests/tools/ConvertSupport.h"
 #include "tests/tools/RunVelorx.h"
+#include "tools/velorx/formats/DxfLosses.h"
 
 #include <gtest/gtest.h>
 
@@ -106,6 +107,15 @@ TEST(ConvertDrawing, ReportIsAsKept)
         report.replace(at, folder.path.size(), "FOLDER");
     }
     EXPECT_EQ(report, ReadFile(VELORX_GOLDEN "/convert-survey-plan.txt"));
+}
+
+TEST(ConvertDrawing, ManualTellsEveryLineOfTheReport)
+{
+    const std::string page = ReadFile(VELOREXCHANGE_DOCS "/formats/dxf-convert.md");
+    for (std::size_t i = 0; i < static_cast<std::size_t>(EDxfLoss::kCount); ++i) {
+        const std::string line = LossText(static_cast<EDxfLoss>(i));
+        EXPECT_NE(page.find("\n| " + line), std::string::npos) << line;
+    }
 }
 
 TEST(ConvertDrawing, PrecisionRoundsPlacesToItsDecimals)
