@@ -24,6 +24,13 @@ build_with_pkg_config() {
         $(pkg-config --cflags --libs velorexchange) "-Wl,-rpath,$prefix/$LIBDIR"
 }
 
+# Builds the README's Nth piece of C++.
+example() {
+    awk -v wanted="$1" '/^```cpp$/ { count++; inside = count == wanted; next }
+        /^```$/ { inside = 0 } inside' "$here/../../README.md" >"$work/readme.cpp"
+    build_with_pkg_config "$work/readme.cpp"
+}
+
 rm -rf "$work"
 case $1 in
 install)
@@ -44,10 +51,12 @@ pkg-config)
     ;;
 readme)
     mkdir -p "$work"
-    sed -n '/^```cpp$/,/^```$/{/^```/!p}' "$here/../../README.md" >"$work/readme.cpp"
-    build_with_pkg_config "$work/readme.cpp"
+    example 1
     "$work/consumer" "$here/../../examples/data/survey-plan.dxf" >"$work/texts"
     grep -qxF "1284440.00 412694.00 ул. Геодезистов" "$work/texts"
+    example 2
+    (cd "$work" && ./consumer)
+    [ "$(grep -c LWPOLYLINE "$work/house.dxf")" = 1 ]
     ;;
 tool)
     "$prefix/bin/velorx" info "$here/drawing.dxf" | grep -q Roads
