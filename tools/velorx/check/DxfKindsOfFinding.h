@@ -19,8 +19,7 @@ inline constexpr SFindingKind kOddCode = {
 inline constexpr SFindingKind kOddEnd = {"odd-end", kFault,
                                          "group codes at the end of the file that have no value"};
 inline constexpr SFindingKind kLongLine = {
-    "long-line", kFault,
-    "lines of more than 999 bytes, whose rest is taken for further lines"};
+    "long-line", kFault, "lines of more than 999 bytes, whose rest is taken for further lines"};
 inline constexpr SFindingKind kBadReal = {"bad-real", kFault,
                                           "values that should be numbers, read as 0"};
 inline constexpr SFindingKind kNotFinite = {"not-finite", kFault, "numbers that are not finite"};
