@@ -110,6 +110,17 @@ TEST(SafeNames, HoldsTenThousandNamesApart)
     EXPECT_EQ(spellings.size(), 10000);
 }
 
+TEST(SafeNames, TellsTwentyThousandNamesOfOneSpellingApartAtOnce)
+{
+    CSafeNames names;
+    QSet<QString> spellings;
+    for (ushort letter = 0x4E00; letter < 0x4E00 + 20000; ++letter) {
+        spellings.insert(names.Of(QString(QChar(letter)))); // none of them has a place
+    }
+    EXPECT_EQ(spellings.size(), 20000);
+    EXPECT_TRUE(spellings.contains("_") && spellings.contains("__19999"));
+}
+
 TEST(SafeNames, KeepsNamesOf300Letters)
 {
     CSafeNames names;

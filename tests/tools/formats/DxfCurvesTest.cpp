@@ -158,6 +158,16 @@ TEST(DxfCurves, SplineWithoutSoundKnotsGetsEvenOnes)
     EXPECT_EQ(spline.knots, (std::vector<double>{0, 0, 0, 0, 1, 2, 2, 2, 2}));
 }
 
+TEST(DxfCurves, DegreesBeyondAllSenseTakeNoTime)
+{
+    CSplineDXF spline;
+    spline.controlPoints.resize(20000);
+    spline.knots.assign(20000, 0.0);
+    spline.knots.insert(spline.knots.end(), 20000, 1.0);
+    EXPECT_EQ(MakeCubic(spline), ECubic::AsItWas);
+    EXPECT_EQ(spline.knots.size(), 20004U);
+}
+
 TEST(DxfCurves, TwoControlPointsAreALine)
 {
     CSplineDXF spline;

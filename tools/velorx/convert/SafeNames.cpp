@@ -63,12 +63,16 @@ QString CSafeNames::Of(const QString& source)
     return *entry;
 }
 
-QString CSafeNames::Unused(const QString& safe) const
+QString CSafeNames::Unused(const QString& safe)
 {
-    QString candidate = safe;
-    for (int i = 1; used.contains(candidate.toCaseFolded()); ++i) {
-        candidate = safe + QLatin1Char('_') + QString::number(i);
+    if (!used.contains(safe.toCaseFolded())) {
+        return safe;
     }
+    int& number = numbers[safe.toCaseFolded()];
+    QString candidate;
+    do {
+        candidate = safe + QLatin1Char('_') + QString::number(++number);
+    } while (used.contains(candidate.toCaseFolded()));
     return candidate;
 }
 

@@ -31,11 +31,12 @@ public:
     qint64 Changed() const { return changed.size(); }
 
 private:
-    QString Unused(const QString& safe) const;
+    QString Unused(const QString& safe);
 
     QHash<QString, QString> exact; ///< By the name as given.
     QHash<QString, QString> folded; ///< By the name without regard to case.
     QSet<QString> used; ///< Spellings in use, without regard to case.
+    QHash<QString, int> numbers; ///< The last one behind a spelling, without regard to case.
     QSet<QString> changed; ///< Of `folded`, those whose spelling is another.
 };
 

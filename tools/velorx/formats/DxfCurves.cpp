@@ -14,6 +14,8 @@ namespace {
 constexpr double kPi = 3.141592653589793;
 constexpr double kTwoPi = 2 * kPi;
 constexpr std::size_t kDegree = 3;
+constexpr std::size_t kHighestDegree =
+    25; // that a drawing program knows, and that takes bearable time
 constexpr std::size_t kPartsOfHighDegree = 16; // pieces for each span of a degree above the third
 
 CPoint3D Along(const CPoint3D& a, const CPoint3D& b, double part)
@@ -48,6 +50,7 @@ std::size_t DegreeOf(CSplineDXF& spline)
     const std::size_t points = spline.controlPoints.size();
     const std::size_t knots = spline.knots.size();
     const bool isSound = knots > points + 1 && knots <= 2 * points
+        && knots - points - 1 <= kHighestDegree
         && std::is_sorted(spline.knots.begin(), spline.knots.end())
         && spline.knots[knots - points - 1] < spline.knots[points];
     if (isSound) {

@@ -12,6 +12,7 @@ constexpr int kSpaceFlags = 8 + kMeshFlags;
 constexpr int kFitted = 4;
 constexpr int kFrameVertex = 16;
 
+constexpr int kAllFlags = 1023;
 constexpr int kPolylinePath = 2;
 constexpr int kMarkedPath = 8 + 16;
 constexpr double kFirstCurve = 2; // kinds of edges: 1 lines, 2 arcs, 3 ellipses, 4 splines
@@ -41,7 +42,7 @@ void CDxfShapeScan::Take(int code, double value)
         }
     } else if (shape == EShape::Hatch) {
         if (code == 92) {
-            pathFlags = static_cast<int>(value);
+            pathFlags = value >= 0 && value <= kAllFlags ? static_cast<int>(value) : 0;
         } else if (code == 72 && (pathFlags & kPolylinePath) == 0 && (pathFlags & kMarkedPath) != 0
                    && value >= kFirstCurve && value <= kLastCurve)
         {
