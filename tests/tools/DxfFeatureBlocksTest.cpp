@@ -329,6 +329,54 @@ TEST(DxfFeatureBlocks, BlocksThatNoInsertDrawsAreListed)
     EXPECT_EQ(stream.Lost("attribute definitions, left out"), "1: ");
 }
 
+TEST(DxfFeatureBlocks, DimensionIsDrawnByItsBlock)
+{
+    CDxfStream stream;
+    stream.Table("0 LAYER, 2 Dims, 62 3");
+    stream.Block("*D1", "0 LINE, 8 0, 62 0, 10 5, 20 6, 11 8, 21 6, 0 MTEXT, 8 0, 40 2, 1 3.00");
+    const auto& read = stream
+                           .Entities("0 DIMENSION, 8 Dims, 2 *D1, 10 1, 20 1, 70 1, "
+                                     "0 DIMENSION, 8 Dims, 2 *D1, 62 1, 67 0, 0 POINT, 8 A")
+                           .Read();
+    ASSERT_EQ(read.lines.size(), 2U);
+    EXPECT_EQ(PointsOf(read.lines[0].points), "(5 6) (8 6)");
+    EXPECT_EQ(read.lines[0].stroke.color, 0xFF00U);
+    EXPECT_EQ(read.lines[0].layer, "Dims");
+    EXPECT_EQ(read.lines[1].stroke.color, 0xFFU);
+    EXPECT_EQ(read.texts.size(), 2U);
+    EXPECT_EQ(stream.Met("DIMENSION"), "2+0");
+    EXPECT_EQ(stream.Lost("dimensions and tables, written as what is drawn of them"), "2: Dims 2");
+    EXPECT_EQ(stream.Lost("DIMENSION, not read: left out"), "");
+}
+
+TEST(DxfFeatureBlocks, DimensionWithoutABlockIsListed)
+{
+    CDxfStream stream;
+    stream.Entities("0 DIMENSION, 8 Dims, 10 1, 20 1, 0 DIMENSION, 8 Dims, 67 1, 2 *D1").Read();
+    EXPECT_EQ(stream.Lost("DIMENSION, not read: left out"), "1: Dims 1");
+    EXPECT_EQ(stream.Lost("elements of paper space, left out"), "1: Dims 1");
+}
+
+TEST(DxfFeatureBlocks, TableIsDrawnByItsBlockAtItsPlace)
+{
+    CDxfStream stream;
+    stream.Block("*T1", "0 LINE, 8 A, 10 1, 20 0, 11 2, 21 0");
+    const auto& read =
+        stream.Entities("0 ACAD_TABLE, 8 A, 2 *T1, 10 100, 20 50, 11 0, 21 1").Read();
+    ASSERT_EQ(read.lines.size(), 1U);
+    EXPECT_EQ(PointsOf(read.lines[0].points), "(100 51) (100 52)");
+}
+
+TEST(DxfFeatureBlocks, DimensionOfABlockGoesWithIt)
+{
+    CDxfStream stream;
+    stream.Block("*D1", "0 POINT, 8 A, 10 1, 20 0").Block("Part", "0 DIMENSION, 8 A, 2 *D1");
+    const auto& read = stream.Entities("0 INSERT, 2 Part, 8 A, 10 10, 20 0, 41 2").Read();
+    ASSERT_EQ(read.points.size(), 1U) << stream.Losses();
+    EXPECT_EQ(read.points[0].position.x, 12);
+    EXPECT_EQ(stream.Met("DIMENSION"), "0+1");
+}
+
 TEST(DxfFeatureBlocks, DataBlockGivesItsAttributesToTheElementThatFollows)
 {
     CDxfStream stream;

@@ -63,14 +63,15 @@ void CheckCounts(const CConversionReport& report, const CCounts& features)
     CCounts ended;
     for (const SConvertedKind& kind : report.kinds) {
         met[kind.name.toStdString()] += kind.inDrawing + kind.inBlocks;
-        if (kind.name == "INSERT") {
-            ended["INSERT"] += kind.written;
+        if (kind.writtenAs == "what its block holds" || kind.writtenAs == "attribute of its object")
+        {
+            ended[kind.name.toStdString()] += kind.written;
         } else if (kind.name == "ATTDEF") {
             ended["ATTDEF"] += kind.inBlocks;
         }
     }
     for (const auto& [kind, count] : features) {
-        ended[kind] += kind == "INSERT" ? 0 : count;
+        ended[kind] += count;
     }
     for (const SConversionLoss& loss : report.losses) {
         const int comma = loss.what.indexOf(", ");
@@ -152,7 +153,11 @@ CFeatureLine Merged(const CFeatureLine& line)
 class CAsText final : public IFeatureSink
 {
 public:
-    CAsText() { layers.Define("DEFPOINTS", "Defpoints_1"); }
+    /// `isCopy` if the names of layers went through our own writing.
+    explicit CAsText(bool isFromCopy) : isCopy(isFromCopy)
+    {
+        layers.Define("DEFPOINTS", "Defpoints_1");
+    }
 
     const char* Take(const SPointFeature& point) override
     {
@@ -189,7 +194,8 @@ public:
 private:
     const char* Add(const SFeature& feature, std::string text)
     {
-        text += " on " + layers.Of(feature.layer).toStdString();
+        const QString layer = isCopy ? feature.layer : layers.Of(feature.layer);
+        text += " on " + layer.toStdString();
         if (feature.attributes != nullptr) {
             for (const SFeatureAttribute& attribute : *feature.attributes) {
                 text += ", " + attribute.name.toStdString() + '='
@@ -200,13 +206,14 @@ private:
         return "text";
     }
 
+    bool isCopy;
     CSafeNames layers; ///< Their spelling in drawings that we write.
 };
 
 void CheckCopy(const QString& path)
 {
-    CAsText before;
-    CAsText after;
+    CAsText before(false);
+    CAsText after(true);
     CFeatureTally tally;
     CDxfWritten copy;
     CDxfFeatureSource source(path, SSourceOptions());

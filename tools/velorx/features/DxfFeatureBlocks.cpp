@@ -8,11 +8,13 @@
 #include "tools/velorx/formats/DxfSurvey.h"
 #include "tools/velorx/formats/DxfTally.h"
 #include "VelorExchange/dxf/read/Read.h"
+#include "VelorExchange/dxf/write/Colour.h"
 
 #include <boost/variant2/variant.hpp>
 
 #include <algorithm>
 #include <iterator>
+#include <utility>
 
 namespace velorx {
 
@@ -82,22 +84,33 @@ bool CDxfFeatureReader::OnInsert(const CInsertDXF& record)
         return true;
     }
     Meet(kInsert);
-    const QString layer = LayerOf(record.layer);
-    const SDxfBlock* block = blocks.Find(record.name);
-    if (std::find(open.begin(), open.end(), block) != open.end()) {
-        return Lost(EntityName(kInsert), layer, losses::kWithinItself);
-    }
-    if (open.size() >= kDeepest) {
-        return Lost(EntityName(kInsert), layer, losses::kTooDeep);
-    }
+    const char* kind = EntityName(kInsert);
     const SPlace outer = place;
     place.attributes = Joined(record.attributes);
-    DrawBlock(record);
-    for (const CAttribDXF& attribute : record.attributes) {
-        GiveAttribute(record.name, attribute);
+    if (CanDraw(kind, record)) {
+        if (DrawBlock(record)) {
+            tally.Wrote(kind, losses::kAsParts);
+            Changed(losses::kBlocks, LayerOf(record.layer));
+        } else {
+            GivePoint(record);
+        }
+        for (const CAttribDXF& attribute : record.attributes) {
+            GiveAttribute(record.name, attribute);
+        }
     }
     place = outer;
     return true;
+}
+
+// Blocks within themselves have no end.
+bool CDxfFeatureReader::CanDraw(const char* kind, const CInsertDXF& record)
+{
+    const SDxfBlock* block = blocks.Find(record.name);
+    const QString layer = LayerOf(record.layer);
+    if (std::find(open.begin(), open.end(), block) != open.end()) {
+        return Lost(kind, layer, losses::kWithinItself);
+    }
+    return open.size() < kDeepest || Lost(kind, layer, losses::kTooDeep);
 }
 
 // A hidden attribute is there as such, but not as a text.
@@ -111,26 +124,54 @@ void CDxfFeatureReader::GiveAttribute(const QString& block, const CAttribDXF& at
     }
 }
 
-// Where the block gives nothing, a point keeps the place and the attributes.
-void CDxfFeatureReader::DrawBlock(const CInsertDXF& record)
+// False if nothing comes of it.
+bool CDxfFeatureReader::DrawBlock(const CInsertDXF& record)
 {
-    const QString layer = LayerOf(record.layer);
     const qint64 before = given;
     if (SDxfBlock* block = blocks.Find(record.name)) {
         block->isUsed = true;
         Draw(*block, record);
     }
-    if (given > before) {
-        tally.Wrote(EntityName(kInsert), "what its block holds");
-        Changed(losses::kBlocks, layer);
-        return;
-    }
+    return given > before;
+}
+
+// It keeps the place and the attributes of an insert that draws nothing.
+void CDxfFeatureReader::GivePoint(const CInsertDXF& record)
+{
     SPointFeature point;
     FillHead(point, EntityName(kInsert), record.layer);
     point.position = record.point;
     point.symbol.color = ColourOf(record.color, record.layer);
     if (Give(point)) {
-        Changed(losses::kNoBlock, layer);
+        Changed(losses::kNoBlock, point.layer);
+    }
+}
+
+// Dimensions and tables, which the library does not read, but which have blocks.
+void CDxfFeatureReader::DrawPictures(const QString& within)
+{
+    constexpr int kByLayer = 256;
+    for (const SDxfPicture& picture : survey.Pictures().In(within)) {
+        const CLayerDXF layer = styles.Layer(picture.layer);
+        CInsertDXF insert;
+        insert.name = picture.block;
+        insert.layer = picture.layer;
+        insert.point = picture.point;
+        insert.rotation = picture.rotation;
+        insert.lineStyle.name = layer.lineType;
+        insert.color = picture.colour <= 0 || picture.colour >= kByLayer
+            ? layer.color
+            : static_cast<quint32>(NumColACAD2RGB(picture.colour));
+        tally.Read(picture.kind, place.isInBlock);
+        if (!CanDraw(picture.kind, insert)) {
+            continue;
+        }
+        if (DrawBlock(insert)) {
+            tally.Wrote(picture.kind, losses::kAsParts);
+            Changed(losses::kPictures, LayerOf(insert.layer));
+        } else {
+            Lost(picture.kind, LayerOf(insert.layer), losses::kNotRead);
+        }
     }
 }
 
@@ -156,6 +197,7 @@ void CDxfFeatureReader::Draw(const SDxfBlock& block, const CInsertDXF& insert)
             DrawOther(*part.other, origin);
         }
     }
+    DrawPictures(block.name);
     open.pop_back();
     place = outer;
     AdaptChords();
@@ -239,9 +281,19 @@ void CDxfFeatureReader::TakeData(const CInsertDXF& record)
     }
 }
 
-void CDxfFeatureReader::Finish()
+// What waits for the end of the entities.
+void CDxfFeatureReader::DrawOutstanding()
 {
     HandOnHeld();
+    place = SPlace();
+    if (!std::exchange(arePicturesDrawn, true)) {
+        DrawPictures(QString());
+    }
+}
+
+void CDxfFeatureReader::Finish()
+{
+    DrawOutstanding();
     if (hasNext) {
         tally.Lose(QLatin1String(losses::kLooseData));
     }

@@ -9,6 +9,7 @@ constexpr char kNoNumber[] = ", with a number that is none: left out";
 constexpr char kEndless[] = ", a line without an end: left out";
 constexpr char kNoSize[] = ", without a size in pixels: left out";
 constexpr char kWordless[] = ", without a letter: left out";
+constexpr char kNotRead[] = ", not read: left out";
 constexpr char kWithinItself[] = ", of a block within itself: left out";
 constexpr char kTooDeep[] = ", of a block within a hundred others: left out";
 
@@ -20,10 +21,14 @@ constexpr char kRepeatedBlocks[] = "blocks defined once more under the same name
 constexpr char kUnusedBlocks[] = "blocks that no insert draws, left out";
 constexpr char kLooseData[] = "attributes that no object follows, left out";
 
+// What an insert is written as.
+constexpr char kAsParts[] = "what its block holds";
+
 // By themselves, what is changed.
 constexpr char kCurves[] = "curves, written in chords";
 constexpr char kCoarseCurves[] = "curves in 10,000 chords each, which are coarser than asked for";
 constexpr char kBlocks[] = "block references, written as what their blocks hold";
+constexpr char kPictures[] = "dimensions and tables, written as what is drawn of them";
 constexpr char kNoBlock[] = "block references without anything to draw, written as points";
 constexpr char kMultilines[] = "multilines, written as the lines that they consist of";
 constexpr char kNoMultilineStyle[] =

@@ -50,6 +50,9 @@ CDxfFeatureReader::CDxfFeatureReader(IFeatureSink& features, CFeatureTally& coun
 bool CDxfFeatureReader::OnSection(int stage)
 {
     constexpr int kObjects = 4;
+    if (stage == kObjects) {
+        DrawOutstanding();
+    }
     return stage != kObjects || !survey.AreObjectsAhead();
 }
 

@@ -113,7 +113,11 @@ private:
 
     // Blocks.
     void TakeData(const VelorExchange::dxf::CInsertDXF& record);
-    void DrawBlock(const VelorExchange::dxf::CInsertDXF& record);
+    bool CanDraw(const char* kind, const VelorExchange::dxf::CInsertDXF& record);
+    bool DrawBlock(const VelorExchange::dxf::CInsertDXF& record);
+    void GivePoint(const VelorExchange::dxf::CInsertDXF& record);
+    void DrawPictures(const QString& block);
+    void DrawOutstanding();
     void Draw(const SDxfBlock& block, const VelorExchange::dxf::CInsertDXF& insert);
     void DrawOther(const VelorExchange::dxf::CEntityVariantDXF& entity,
                    const VelorExchange::dxf::CInsertDXF& insert);
@@ -139,6 +143,7 @@ private:
     SPlace next; ///< Attributes and code of the element that comes next.
     SAreaFeature held; ///< An area that waits for `outlinesToCome`.
     int outlinesToCome = 0;
+    bool arePicturesDrawn = false; ///< Those outside blocks.
 };
 
 } // namespace velorx

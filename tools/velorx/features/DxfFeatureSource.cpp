@@ -29,6 +29,15 @@ constexpr EDxfLoss kKept[] = {
     EDxfLoss::HeaderVariables, EDxfLoss::HiddenAttributes,
 };
 
+// Pictures are counted where they are drawn.
+bool IsPicture(const QString& what)
+{
+    const auto kinds = CDxfPictures::Kinds();
+    return std::any_of(kinds.begin(), kinds.end(), [&what](const char* kind) {
+        return what == QLatin1String(kind) + QLatin1String(losses::kNotRead);
+    });
+}
+
 bool IsKept(const QString& what)
 {
     return std::any_of(std::begin(kKept), std::end(kKept),
@@ -46,7 +55,7 @@ void HandOnLosses(const CDxfTally& counts, CFeatureTally& tally)
     CConversionReport report;
     counts.FillReport(report);
     for (const SConversionLoss& loss : report.losses) {
-        if (IsKept(loss.what)) {
+        if (IsKept(loss.what) || IsPicture(loss.what)) {
             continue;
         }
         qint64 rest = loss.count;

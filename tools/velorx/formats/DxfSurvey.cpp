@@ -157,7 +157,7 @@ void CDxfSurvey::FinishEntity()
         if (isLeftOut) {
             tally.Lose(EDxfLoss::PaperSpace, Layer());
         } else if (kind == kDxfKinds) {
-            tally.Unread(record, Layer());
+            TakeUnknown();
         } else if (kind == kAttDef && !isInBlock) {
             tally.Lose(EDxfLoss::AttDefs, Layer());
         } else {
@@ -165,6 +165,13 @@ void CDxfSurvey::FinishEntity()
             JudgeEntity();
         }
     }
+}
+
+void CDxfSurvey::TakeUnknown()
+{
+    const SDxfSurveyEntity entity = {record, groups, Layer(), block, isInBlock};
+    tally.Unread(record, entity.layer);
+    pictures.Take(entity, [this](const std::string& bytes) { return Decoded(bytes); });
 }
 
 void CDxfSurvey::JudgeEntity()

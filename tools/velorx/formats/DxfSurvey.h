@@ -8,6 +8,7 @@
 #include "tools/velorx/formats/DxfHiddenTags.h"
 #include "tools/velorx/formats/DxfLineTypes.h"
 #include "tools/velorx/formats/DxfMLineStyle.h"
+#include "tools/velorx/formats/DxfPictures.h"
 #include "tools/velorx/formats/DxfShapeScan.h"
 #include "tools/velorx/formats/DxfTally.h"
 #include "tools/velorx/formats/DxfTextHabits.h"
@@ -79,6 +80,7 @@ public:
     const CDxfColourUse& Colours() const { return colours; }
     const CDxfHatchPatterns& HatchPatterns() const { return hatchPatterns; }
     const CDxfHiddenTags& HiddenTags() const { return hiddenTags; }
+    const CDxfPictures& Pictures() const { return pictures; }
     const CDxfTextHabits& Texts() const { return texts; }
 
 private:
@@ -89,6 +91,7 @@ private:
     void BeginRecord(std::string_view kind);
     void FinishRecord();
     void FinishEntity();
+    void TakeUnknown();
     void JudgeEntity();
     void JudgeMLine();
     void FinishTableRecord();
@@ -127,6 +130,7 @@ private:
     CDxfAttDefs attDefs;
     CDxfHiddenTags hiddenTags;
     CDxfColourUse colours;
+    CDxfPictures pictures;
     CDxfTextHabits texts;
     QHash<QString, VelorExchange::dxf::CTextStyleDXF> textStyles; ///< By name without case.
     QHash<QString, QString> styleHandles; ///< Names of text styles by handle in capitals.
