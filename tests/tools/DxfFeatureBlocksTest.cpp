@@ -329,6 +329,17 @@ TEST(DxfFeatureBlocks, BlocksThatNoInsertDrawsAreListed)
     EXPECT_EQ(stream.Lost("attribute definitions, left out"), "1: ");
 }
 
+TEST(DxfFeatureBlocks, InsertOnAPlaneSeenFromBehindIsMirrored)
+{
+    CDxfStream stream;
+    stream.Block("B", "0 LINE, 8 A, 10 1, 20 0, 11 2, 21 1");
+    const auto& read =
+        stream.Entities("0 INSERT, 2 B, 8 A, 10 10, 20 0, 50 90, 210 0, 220 0, 230 -1").Read();
+    ASSERT_EQ(read.lines.size(), 1U);
+    EXPECT_EQ(PointsOf(read.lines[0].points), "(-10 1) (-9 2)");
+    EXPECT_EQ(stream.Lost("elements drawn on a plane seen from behind, mirrored in part"), "");
+}
+
 TEST(DxfFeatureBlocks, DimensionIsDrawnByItsBlock)
 {
     CDxfStream stream;

@@ -342,6 +342,43 @@ TEST(DxfFeatureLines, LettersOfLineTypesAreListed)
               "1: ");
 }
 
+TEST(DxfFeatureLines, PointsInThePlanStayThereWhateverTheirPlane)
+{
+    CDxfStream stream;
+    const auto& read =
+        stream
+            .Entities(
+                "0 POINT, 8 A, 10 5, 20 6, 210 0, 220 0, 230 -1, "
+                "0 ELLIPSE, 8 A, 10 5, 20 6, 11 2, 21 0, 40 0.5, 41 0, 42 1.5707963267948966, "
+                "210 0, 220 0, 230 -1, "
+                "0 SPLINE, 8 A, 210 0, 220 0, 230 -1, 40 0, 40 0, 40 1, 40 1, 10 1, 20 1, 30 0, "
+                "10 2, 20 3, 30 0")
+            .Read();
+    EXPECT_EQ(read.points.at(0).position.x, 5);
+    ASSERT_EQ(read.lines.size(), 2U);
+    const CFeatureLine& arc = read.lines[0].points;
+    EXPECT_EQ(PointsOf({arc.front(), arc.back()}), "(5 5) (7 6)");
+    EXPECT_EQ(PointsOf(read.lines[1].points), "(1 1) (2 3)");
+    EXPECT_EQ(stream.Losses(), "1 curves, written in chords\n");
+}
+
+TEST(DxfFeatureLines, BulgesOfAPlaneSeenFromBehindTurnOver)
+{
+    CDxfStream stream;
+    const auto& read =
+        stream
+            .Entities("0 LWPOLYLINE, 8 A, 90 2, 10 0, 20 0, 42 1, 10 10, 20 0, 42 0, "
+                      "210 0, 220 0, 230 -1")
+            .Read(0.001);
+    ASSERT_EQ(read.lines.size(), 1U);
+    double bottom = 0;
+    for (const CPoint3D& p : read.lines[0].points) {
+        bottom = std::min(bottom, p.y);
+    }
+    EXPECT_EQ(read.lines[0].points.back().x, -10);
+    EXPECT_NEAR(bottom, -5, 0.001);
+}
+
 TEST(DxfFeatureLines, MultilineBecomesItsLines)
 {
     CDxfStream stream;

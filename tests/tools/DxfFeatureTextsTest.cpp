@@ -102,6 +102,21 @@ TEST(DxfFeatureTexts, LongTextIsPlain)
     EXPECT_EQ(stream.Losses(), "");
 }
 
+TEST(DxfFeatureTexts, LongTextWithAnObjectInItKeepsItsPlace)
+{
+    CDxfStream stream;
+    const auto& read =
+        stream
+            .Entities("0 MTEXT, 8 A, 10 5, 20 6, 40 2, 41 9, 71 5, 1 x, 101 Embedded Object, "
+                      "70 1, 10 1, 20 0, 11 0, 21 0, 40 7, 41 0, 71 2, 0 POINT, 8 A")
+            .Read();
+    ASSERT_EQ(read.texts.size(), 1U);
+    EXPECT_EQ(read.texts[0].position.x, 5);
+    EXPECT_EQ(read.texts[0].height, 2);
+    EXPECT_EQ(read.texts[0].align, EFeatureAlign::Centre);
+    EXPECT_EQ(read.points.size(), 1U);
+}
+
 TEST(DxfFeatureTexts, PlacesOfALongTextAreTheNineOfItsFrame)
 {
     for (int place = 1; place <= 9; ++place) {

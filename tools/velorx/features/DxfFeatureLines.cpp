@@ -122,14 +122,16 @@ bool CDxfFeatureReader::OnSpline(const CSplineDXF& record)
 {
     Meet(kSpline);
     CFeatureLine path;
+    bool hasCurves = false;
     for (const CBezier& piece : PiecesOf(record)) {
+        hasCurves = hasCurves || piece.size() > 2;
         if (path.empty()) {
             path.push_back(piece.front());
         }
         chords.AppendBezier(path, piece);
     }
     const bool isGiven = GivePath(EntityName(kSpline), record, path, HasHeights(path));
-    if (isGiven) {
+    if (isGiven && hasCurves) {
         Changed(losses::kCurves, LayerOf(record.layer));
     }
     return isGiven;

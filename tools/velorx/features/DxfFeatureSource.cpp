@@ -5,6 +5,7 @@
 #include "tools/velorx/features/DxfFeatureLosses.h"
 #include "tools/velorx/features/DxfFeatureReader.h"
 #include "tools/velorx/formats/DxfContent.h"
+#include "tools/velorx/formats/DxfMender.h"
 #include "tools/velorx/formats/DxfSurvey.h"
 #include "tools/velorx/formats/DxfTally.h"
 #include "tools/velorx/info/Family.h"
@@ -50,7 +51,14 @@ QByteArray HeadOf(const QString& path)
     return file.open(QIODevice::ReadOnly) ? file.read(kHeadSize) : QByteArray();
 }
 
-void HandOnLosses(const CDxfTally& counts, CFeatureTally& tally)
+// What is drawn on a plane that is seen from behind is right where it is mended.
+qint64 Mended(const QString& what, const QString& layer, const CDxfSurvey& survey)
+{
+    const bool isMirrored = what == QLatin1String(LossText(EDxfLoss::MirroredPlanes));
+    return isMirrored ? survey.Mendings().Mirrored(layer) : 0;
+}
+
+void HandOnLosses(const CDxfTally& counts, const CDxfSurvey& survey, CFeatureTally& tally)
 {
     CConversionReport report;
     counts.FillReport(report);
@@ -60,8 +68,11 @@ void HandOnLosses(const CDxfTally& counts, CFeatureTally& tally)
         }
         qint64 rest = loss.count;
         for (const auto& [layer, count] : loss.layers) {
-            tally.Lose(loss.what, layer, count);
+            const qint64 lost = count - Mended(loss.what, layer, survey);
             rest -= count;
+            if (lost > 0) {
+                tally.Lose(loss.what, layer, lost);
+            }
         }
         if (rest > 0) {
             tally.Lose(loss.what, QString(), rest);
@@ -94,7 +105,8 @@ QString NameOf(const QString& path)
 
 } // namespace
 
-// Two passes: the first for what the reader leaves out, the second through the library.
+// Two passes: the first for what the reader leaves out, the second through the library, over a copy where it
+// would take something for what it is not.
 QString CDxfFeatureSource::Read(IFeatureSink& sink, CFeatureTally& tally)
 {
     if (!IsDxfContent(HeadOf(path))) {
@@ -105,12 +117,17 @@ QString CDxfFeatureSource::Read(IFeatureSink& sink, CFeatureTally& tally)
     if (!survey.Read(path)) {
         return QStringLiteral("it cannot be opened");
     }
+    QTemporaryFile mended;
+    const bool isMended = survey.Mendings().AreNeeded();
+    if (isMended && !Mend(path, mended)) {
+        return QStringLiteral("a temporary copy of it cannot be written");
+    }
     sink.TakeHead({NameOf(path), 0});
     CDxfFeatureReader reader(sink, tally, survey, counts, options);
-    const bool isWhole = VelorExchange::dxf::Read(path, &reader);
+    const bool isWhole = VelorExchange::dxf::Read(isMended ? mended.fileName() : path, &reader);
     reader.Finish();
     counts.EndReading();
-    HandOnLosses(counts, tally);
+    HandOnLosses(counts, survey, tally);
     HandOnRest(survey, tally);
     return isWhole ? QString() : QStringLiteral("the drawing ends inside a block");
 }

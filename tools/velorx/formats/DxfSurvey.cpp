@@ -184,6 +184,7 @@ void CDxfSurvey::JudgeEntity()
     followers += FollowsLinesOfInsert(entity) ? 1 : 0;
     const auto decode = [this](const std::string& bytes) { return Decoded(bytes); };
     hiddenTags.Take(entity, decode);
+    mendings.Take(entity);
     if (Is("HATCH")) {
         hatchPatterns.Finish(entity, Decoded(groups.Text(2)), tally);
     } else if (Is("MLINE")) {

@@ -7,6 +7,7 @@
 #include "tools/velorx/formats/DxfHatchPatterns.h"
 #include "tools/velorx/formats/DxfHiddenTags.h"
 #include "tools/velorx/formats/DxfLineTypes.h"
+#include "tools/velorx/formats/DxfMendings.h"
 #include "tools/velorx/formats/DxfMLineStyle.h"
 #include "tools/velorx/formats/DxfPictures.h"
 #include "tools/velorx/formats/DxfShapeScan.h"
@@ -80,6 +81,7 @@ public:
     const CDxfColourUse& Colours() const { return colours; }
     const CDxfHatchPatterns& HatchPatterns() const { return hatchPatterns; }
     const CDxfHiddenTags& HiddenTags() const { return hiddenTags; }
+    const CDxfMendings& Mendings() const { return mendings; }
     const CDxfPictures& Pictures() const { return pictures; }
     const CDxfTextHabits& Texts() const { return texts; }
 
@@ -130,6 +132,7 @@ private:
     CDxfAttDefs attDefs;
     CDxfHiddenTags hiddenTags;
     CDxfColourUse colours;
+    CDxfMendings mendings;
     CDxfPictures pictures;
     CDxfTextHabits texts;
     QHash<QString, VelorExchange::dxf::CTextStyleDXF> textStyles; ///< By name without case.
