@@ -26,7 +26,7 @@ TEST(MIFReader, MissingFileIsFalseWithoutACall)
     EXPECT_EQ(Recorded(CMifPair(), true), "false\n");
 }
 
-TEST(MIFReader, FolderInPlaceOfTheFileIsFalse)
+TEST(MIFReader, FolderInsteadOfTheFileIsFalse)
 {
     const QTemporaryDir folder;
     ASSERT_TRUE(QDir(folder.path()).mkdir(QStringLiteral("a.mif")));

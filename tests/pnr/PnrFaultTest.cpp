@@ -178,7 +178,7 @@ TEST_P(PnrFaults, TemporaryFilesGoAwayWithTheWriter)
 
 INSTANTIATE_TEST_SUITE_P(BothForms, PnrFaults, testing::Bool());
 
-TEST(PnrTxtWriterFaults, AFailedCloseStandsInTheReportInPlaceOfTheCounts)
+TEST(PnrTxtWriterFaults, AFailedCloseStandsInTheReportInsteadOfTheCounts)
 {
     CExportLog log;
     log.UpStatistic(QStringLiteral("other"), QStringLiteral("слои"));

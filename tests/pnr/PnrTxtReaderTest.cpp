@@ -106,7 +106,7 @@ TEST(PnrTxtReader, RefusesACountUnlikeTheObjects)
 TEST(PnrTxtReader, KeepsObjectsDeliveredBeforeAFault)
 {
     const CPnrResult result =
-        Read(QByteArray(".DAT 3\n") + kLine + ".OBJ 1 XXX\n" + kMetric + kLine);
+        Read(QByteArray(".DAT 3\n") + kLine + ".OBJ 1 QQQ\n" + kMetric + kLine);
     EXPECT_FALSE(result.result);
     EXPECT_EQ(result.message, kFormat);
     EXPECT_EQ(result.log, kLineLog);
@@ -158,7 +158,7 @@ TEST(PnrTxtReader, DeliversEachKindToItsOperation)
 
 TEST(PnrTxtReader, RefusesOtherKinds)
 {
-    for (const char* word : {"lin", "LINE", "", "XXX"}) {
+    for (const char* word : {"lin", "LINE", "", "QQQ"}) {
         ExpectBlockFault(QByteArray(".OBJ 7 ") + word + "\n" + kMetric);
     }
 }

@@ -81,7 +81,7 @@ TEST(Chords, AreNoMoreThanTheLimitForOneCurve)
     EXPECT_EQ(chords.Coarse(), 1);
 }
 
-TEST(Chords, TakeTheUsualToleranceInPlaceOfOneThatMakesNoSense)
+TEST(Chords, TakeTheUsualToleranceInsteadOfOneThatMakesNoSense)
 {
     for (const double tolerance : {0.0, -1.0, kNan}) {
         EXPECT_EQ(CChords(tolerance).Tolerance(), CChords::kUsualTolerance);

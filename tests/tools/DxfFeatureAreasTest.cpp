@@ -22,7 +22,7 @@ TEST(DxfFeatureAreas, FaceIsAnAreaInSpace)
     EXPECT_EQ(read.areas[0].fill.kind, EFeatureFill::None);
 }
 
-TEST(DxfFeatureAreas, FaceOfThreeCornersIsATriangle)
+TEST(DxfFeatureAreas, FaceWithThreeCornersIsATriangle)
 {
     CDxfStream stream;
     const auto& read =
@@ -30,7 +30,7 @@ TEST(DxfFeatureAreas, FaceOfThreeCornersIsATriangle)
     EXPECT_EQ(PointsOf(read.areas.at(0).rings.at(0)), "(0 0) (5 0) (5 5)");
 }
 
-TEST(DxfFeatureAreas, FaceOfTwoCornersIsALine)
+TEST(DxfFeatureAreas, FaceWithTwoCornersIsALine)
 {
     CDxfStream stream;
     const auto& read =

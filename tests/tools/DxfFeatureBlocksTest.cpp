@@ -299,7 +299,7 @@ TEST(DxfFeatureBlocks, BlocksThatBlowUpEnd)
     CFeatureTally tally;
     CDxfTally counts;
     const CDxfSurvey survey(counts);
-    CDxfFeatureReader reader(recorder, tally, survey, counts, SSourceOptions());
+    CDxfFeatureReader reader(recorder, tally, survey, counts, SReadingOptions());
     reader.LimitDrawn(1000);
     CInsertDXF insert;
     for (int i = 0; i < 40; ++i) {

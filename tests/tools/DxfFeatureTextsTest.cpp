@@ -40,7 +40,7 @@ TEST(DxfFeatureTexts, TextKeepsItsLooks)
     EXPECT_EQ(stream.Losses(), "");
 }
 
-TEST(DxfFeatureTexts, StyleWithATypefaceOfTheSystemGivesIt)
+TEST(DxfFeatureTexts, StyleWithASystemTypefaceGivesIt)
 {
     CDxfStream stream;
     stream.Table("0 STYLE, 2 Gost, 3 gost.ttf, 1001 ACAD, 1000 GOST type A, 1071 16777216");

@@ -63,7 +63,7 @@ CFeatureRecorder& CDxfStream::Read(double chord)
         + Section("BLOCKS", blocks) + Section("ENTITIES", entities) + Section("OBJECTS", objects)
         + "0\nEOF\n");
     CFeatureTally tally;
-    SSourceOptions options;
+    SReadingOptions options;
     options.chord = chord;
     EXPECT_EQ(CDxfFeatureSource(file.Path(), options).Read(recorder, tally), QString());
     tally.FillReport(report);

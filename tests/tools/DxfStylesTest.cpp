@@ -11,17 +11,17 @@ namespace velorx::test {
 
 TEST(DxfStyles, TypefacesAreKnownByTheirFiles)
 {
-    EXPECT_EQ(TypefaceOf("C:\\Windows\\Fonts\\TIMESBI.TTF").name, "Times New Roman");
-    EXPECT_TRUE(TypefaceOf("timesbi.ttf").isBold);
-    EXPECT_TRUE(TypefaceOf("timesbi.ttf").isItalic);
-    EXPECT_FALSE(TypefaceOf("arial.ttf").isBold);
-    EXPECT_EQ(TypefaceOf("fonts/Isocpeur.ttf").name, "Isocpeur");
+    EXPECT_EQ(TypefaceFromFile("C:\\Windows\\Fonts\\TIMESBI.TTF").name, "Times New Roman");
+    EXPECT_TRUE(TypefaceFromFile("timesbi.ttf").isBold);
+    EXPECT_TRUE(TypefaceFromFile("timesbi.ttf").isItalic);
+    EXPECT_FALSE(TypefaceFromFile("arial.ttf").isBold);
+    EXPECT_EQ(TypefaceFromFile("fonts/Isocpeur.ttf").name, "Isocpeur");
 }
 
 TEST(DxfStyles, FilesOfShapesAreNoTypefaces)
 {
     for (const char* file : {"txt", "simplex.shx", "Arial", ""}) {
-        EXPECT_EQ(TypefaceOf(file).name, "") << file;
+        EXPECT_EQ(TypefaceFromFile(file).name, "") << file;
     }
 }
 

@@ -76,7 +76,7 @@ CFeatureRecorder& CDxfWritten::ReadBack()
 void CDxfWritten::ReadBackTo(IFeatureSink& sink)
 {
     Bytes();
-    CDxfFeatureSource source(folder.filePath("drawing.dxf"), SSourceOptions());
+    CDxfFeatureSource source(folder.filePath("drawing.dxf"), SReadingOptions());
     EXPECT_EQ(source.Read(sink, tallyOfReading), QString());
 }
 

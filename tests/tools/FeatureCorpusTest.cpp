@@ -113,7 +113,7 @@ void CheckDrawing(const QString& path, qint64& all)
 {
     CFeatureRecorder read;
     CFeatureTally tally;
-    EXPECT_EQ(CDxfFeatureSource(path, SSourceOptions()).Read(read, tally), QString());
+    EXPECT_EQ(CDxfFeatureSource(path, SReadingOptions()).Read(read, tally), QString());
     CCounts features;
     Check(read.points, features);
     Check(read.lines, features);
@@ -216,7 +216,7 @@ void CheckCopy(const QString& path)
     CAsText after(true);
     CFeatureTally tally;
     CDxfWritten copy;
-    CDxfFeatureSource source(path, SSourceOptions());
+    CDxfFeatureSource source(path, SReadingOptions());
     source.Read(before, tally);
     source.Read(*copy, tally);
     copy.ReadBackTo(after);

@@ -47,7 +47,7 @@ protected:
 
     const VelorExchange::test::CLocaleCodec local{"windows-1251"};
     const CTemporaryFolder folder;
-    SSourceOptions options;
+    SReadingOptions options;
     CFeatureRecorder sink;
     CFeatureTally tally;
     QString problem;

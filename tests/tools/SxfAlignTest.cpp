@@ -40,8 +40,8 @@ TEST(SxfTextPlace, LiesOnTheLineWhereTheAlignmentSays)
         const SSxfTextLine line = MakeTextLine({100, 200}, std::atan2(3, 4), 10, along);
         EXPECT_DOUBLE_EQ(line.last.x - line.first.x, 6) << "x counts to the north";
         EXPECT_DOUBLE_EQ(line.last.y - line.first.y, 8);
-        EXPECT_DOUBLE_EQ(PlaceOn(line, along).x, 100);
-        EXPECT_DOUBLE_EQ(PlaceOn(line, along).y, 200);
+        EXPECT_DOUBLE_EQ(PointAlong(line, along).x, 100);
+        EXPECT_DOUBLE_EQ(PointAlong(line, along).y, 200);
     }
     EXPECT_EQ(MakeTextLine({1, 2}, 0, 5, EFeatureAlign::Left).first.y, 2);
     EXPECT_EQ(MakeTextLine({1, 2}, 0, 5, EFeatureAlign::Right).last.y, 2);

@@ -111,7 +111,7 @@ const CNameCache::CName* CDXFReaderImpl::KnownName(int code)
         names.Clear();
     }
     bool known = false;
-    CNameCache::CName& name = names.PlaceOf(input.Bytes(span), known);
+    CNameCache::CName& name = names.EntryFor(input.Bytes(span), known);
     if (!known) {
         FillName(name, input.Text(span));
     }

@@ -24,7 +24,7 @@ std::size_t CNameCache::Hash(std::string_view bytes)
     return hash * kMix; // the high bits depend on all bytes
 }
 
-CNameCache::CName& CNameCache::PlaceOf(std::string_view bytes, bool& known)
+CNameCache::CName& CNameCache::EntryFor(std::string_view bytes, bool& known)
 {
     CPlace& place = places[Hash(bytes) >> (64U - bits)];
     known = place.round == round && std::string_view(place.bytes.data(), place.size) == bytes;

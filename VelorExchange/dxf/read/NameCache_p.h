@@ -31,7 +31,7 @@ public:
 
     /// The place of these bytes, at most `kLongestName` of them. `known` tells whether the place is
     /// filled already; if not the caller fills it.
-    CName& PlaceOf(std::string_view bytes, bool& known);
+    CName& EntryFor(std::string_view bytes, bool& known);
 
     /// Forgets everything: the codec or the layers have changed.
     void Clear() { ++round; }

@@ -322,7 +322,7 @@ TEST(LineReader, KeptBytesStayOverManyBlocks)
     EXPECT_TRUE(std::equal(reader.Base(), reader.Base() + size, bytes.constData() + start));
 }
 
-TEST(LineReader, BaseIsThePlaceOfTheLastKeep)
+TEST(LineReader, BaseIsWhereTheLastKeepWas)
 {
     QByteArray bytes("one\ntwo\nthree\n");
     QBuffer device(&bytes);

@@ -11,7 +11,7 @@ namespace {
 bool IsKnown(CNameCache& names, std::string_view bytes)
 {
     bool known = false;
-    names.PlaceOf(bytes, known);
+    names.EntryFor(bytes, known);
     return known;
 }
 
@@ -21,7 +21,7 @@ TEST(NameCache, NewcomerIsNotKnownAndEmpty)
 {
     CNameCache names;
     bool known = true;
-    const CNameCache::CName& name = names.PlaceOf("Walls", known);
+    const CNameCache::CName& name = names.EntryFor("Walls", known);
     EXPECT_FALSE(known);
     EXPECT_TRUE(name.text.isEmpty());
     EXPECT_TRUE(name.lineType.isEmpty());
@@ -33,10 +33,10 @@ TEST(NameCache, WhatWasFilledInComesBack)
     CNameCache names;
     const CLayerDXF layer;
     bool known = false;
-    CNameCache::CName& name = names.PlaceOf("Walls", known);
+    CNameCache::CName& name = names.EntryFor("Walls", known);
     name.text = QStringLiteral("Walls");
     name.layer = &layer;
-    const CNameCache::CName& again = names.PlaceOf("Walls", known);
+    const CNameCache::CName& again = names.EntryFor("Walls", known);
     EXPECT_TRUE(known);
     EXPECT_EQ(again.text, QStringLiteral("Walls"));
     EXPECT_EQ(again.layer, &layer);
@@ -71,9 +71,9 @@ TEST(NameCache, ClearedNamesAreNotKnown)
 {
     CNameCache names;
     bool known = false;
-    names.PlaceOf("Walls", known).text = QStringLiteral("Walls");
+    names.EntryFor("Walls", known).text = QStringLiteral("Walls");
     names.Clear();
-    EXPECT_TRUE(names.PlaceOf("Walls", known).text.isEmpty());
+    EXPECT_TRUE(names.EntryFor("Walls", known).text.isEmpty());
     EXPECT_FALSE(known);
 }
 
@@ -84,7 +84,7 @@ TEST(NameCache, NoNameIsEverTakenForAnother)
     for (int i = 0; i < 200000; ++i) {
         const QByteArray bytes = "layer " + QByteArray::number(static_cast<int>(random() % 20000));
         bool known = false;
-        CNameCache::CName& name = names.PlaceOf(bytes.toStdString(), known);
+        CNameCache::CName& name = names.EntryFor(bytes.toStdString(), known);
         if (known) {
             ASSERT_EQ(name.text, QString::fromLatin1(bytes));
         }

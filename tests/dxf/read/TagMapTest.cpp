@@ -114,7 +114,7 @@ TEST(TagMap, ValuesOfOneCodeAreJoined)
     EXPECT_EQ(object.Value(8), "A");
 }
 
-TEST(TagMap, ValueTakesThePlaceOfAnEmptyOne)
+TEST(TagMap, ValueReplacesAnEmptyOne)
 {
     EXPECT_EQ(Gathered("3\n3\n3 two\n3 three\n").Value(3), "two;three");
 }

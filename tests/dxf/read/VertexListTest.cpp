@@ -48,7 +48,7 @@ TEST(VertexList, ComparesWithTheLastVertexAlone)
     EXPECT_EQ(vertices.size(), 3U);
 }
 
-TEST(VertexList, TakesADistanceOfOneTenThousandthAsTheSquareSays)
+TEST(VertexList, TakesOneTenThousandthOfDistanceAsTheSquareSays)
 {
     EXPECT_EQ(Vertices({{0, 0, 0}, 0}, {{1e-4, 0, 0}, 0}).size(), 1e-4 * 1e-4 < 1e-08 ? 1U : 2U);
     EXPECT_EQ(Vertices({{0, 0, 0}, 0}, {{1.0001e-4, 0, 0}, 0}).size(), 2U);

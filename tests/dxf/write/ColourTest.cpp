@@ -87,7 +87,7 @@ TEST(Colour, TiesGoToTheLowerIndex)
     EXPECT_EQ(RGB2NumColACAD(Packed(192, 192, 192)), 9);
 }
 
-TEST(Colour, HighByteIsLeftOutOfTheDistanceOnly)
+TEST(Colour, HighByteIsLeftOutOfDistancesOnly)
 {
     EXPECT_EQ(RGB2NumColACAD(0xFFFFFFFFUL), 7);
     EXPECT_EQ(RGB2NumColACAD(static_cast<unsigned long>(-1)), 7);

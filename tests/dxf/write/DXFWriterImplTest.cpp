@@ -131,7 +131,7 @@ TEST(DXFWriterImpl, PrecisionIsSixAtTheStart)
     EXPECT_EQ(drawing->GetTolerance(), std::pow(0.1, 6));
 }
 
-TEST(DXFWriterImpl, PrecisionOfTwoHasAToleranceOfItsOwn)
+TEST(DXFWriterImpl, PrecisionOfTwoHasItsOwnTolerance)
 {
     const CDrawing drawing;
     drawing->SetPrecision(2);

@@ -129,7 +129,7 @@ TEST(Hatch, BulgeBelowTheLeastIsNone)
     EXPECT_EQ(Values(drawing, 72), (std::vector<std::string>{"0", "1"}));
 }
 
-TEST(Hatch, VerticesWithinTheToleranceOfTheLastKeptOneGo)
+TEST(Hatch, VerticesTooNearTheLastKeptOneGo)
 {
     CDrawing drawing;
     drawing->SetPrecision(1);

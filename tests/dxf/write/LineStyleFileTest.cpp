@@ -118,7 +118,7 @@ TEST(LineStyleFile, PatternWithoutElementsDropsTheStyle)
     EXPECT_TRUE(Read("*a,b").empty());
 }
 
-TEST(LineStyleFile, EmptyLineOrCommentInPlaceOfThePatternDropsTheStyle)
+TEST(LineStyleFile, EmptyLineOrCommentInsteadOfThePatternDropsTheStyle)
 {
     EXPECT_TRUE(Read("*a,b\n  \nA,1\n").empty());
     EXPECT_TRUE(Read("*a,b\n;A,1\nA,1\n").empty());

@@ -85,7 +85,7 @@ TEST(MLineStyleFile, OtherValueOfZeroGoesIntoTheNewBody)
     EXPECT_EQ(styles.front().body, QStringLiteral("0\nOTHER\n2\na\n49\n1\n"));
 }
 
-TEST(MLineStyleFile, WordInThePlaceOfAValueEndsTheStyle)
+TEST(MLineStyleFile, WordInsteadOfAValueEndsTheStyle)
 {
     const auto styles = Read("2\na\n49\n1\n3\nMLSTYLE\n2\nb\n49\n2\n");
     ASSERT_EQ(styles.size(), 2U);

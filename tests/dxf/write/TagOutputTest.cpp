@@ -43,7 +43,7 @@ TEST(TagOutput, HandleIsInLowerCaseHexadecimal)
     EXPECT_EQ(Written([](CTagOutput& output) { output.WriteHandle(5, 0x8F); }), "5\r\n8f\r\n");
 }
 
-TEST(TagOutput, RealHasTheDigitsInForceOrItsOwn)
+TEST(TagOutput, RealHasTheDigitsSetOrItsOwn)
 {
     EXPECT_EQ(Written([](CTagOutput& output) {
                   output.WriteReal(10, 0.03125);

@@ -262,7 +262,7 @@ TEST_F(RscContents, AsksTheLibraryEvenWhileNothingIsOpen)
     EXPECT_EQ(Calls(), "mapGetRscSegmentCount(0x0)\n");
 }
 
-TEST_F(RscContents, AddsNothingAfterKillInstanceOfAnOpenClassifier)
+TEST_F(RscContents, AddsNothingAfterKillInstanceForAnOpenClassifier)
 {
     standin::Current().layers = {"roads"};
     R& reader = Opened();

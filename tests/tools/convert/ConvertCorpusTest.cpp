@@ -263,7 +263,7 @@ class ConvertCorpus : public testing::TestWithParam<int>
 
 } // namespace
 
-TEST_P(ConvertCorpus, ReportTellsEachDifferenceOfSourceAndResult)
+TEST_P(ConvertCorpus, ReportTellsEachDifferenceBetweenSourceAndResult)
 {
     const std::vector<std::filesystem::path> drawings = DrawingsOf(CorpusFolder() / "dxf");
     if (drawings.empty()) {

@@ -62,8 +62,7 @@ double Distance(const CPoint3D& a, const CPoint3D& b)
 
 // The greatest distance between a spline of the third degree and one of `degree`, whose knots run from 0
 // to `spans` in steps of 1.
-double DifferenceOf(const CSplineDXF& cubic, const CSplineDXF& source, std::size_t degree,
-                    int spans)
+double LargestGap(const CSplineDXF& cubic, const CSplineDXF& source, std::size_t degree, int spans)
 {
     double most = 0;
     for (double at = 0; at < spans; at += 0.0625) {
@@ -120,7 +119,7 @@ TEST(DxfCurves, QuadraticSplineIsRaisedExactly)
     CSplineDXF spline = Quadratic();
     EXPECT_EQ(MakeCubic(spline), ECubic::Raised);
     EXPECT_EQ(spline.knots.size(), spline.controlPoints.size() + 4);
-    EXPECT_LT(DifferenceOf(spline, Quadratic(), 2, 2), 1e-12);
+    EXPECT_LT(LargestGap(spline, Quadratic(), 2, 2), 1e-12);
 }
 
 TEST(DxfCurves, ChainOfLinesIsRaisedExactly)
@@ -130,7 +129,7 @@ TEST(DxfCurves, ChainOfLinesIsRaisedExactly)
     spline.controlPoints = {{0, 0, 0}, {3, 4, 1}, {5, 0, 2}};
     const CSplineDXF before = spline;
     EXPECT_EQ(MakeCubic(spline), ECubic::Raised);
-    EXPECT_LT(DifferenceOf(spline, before, 1, 2), 1e-12);
+    EXPECT_LT(LargestGap(spline, before, 1, 2), 1e-12);
 }
 
 TEST(DxfCurves, SplineOfTheFifthDegreeIsMetNearly)

@@ -69,7 +69,7 @@ TEST(PictureTexts, CentredTextHasItsPlaceInTheMiddle)
     EXPECT_NEAR((ink.left + ink.right) / 2, 48, 1);
 }
 
-TEST(PictureTexts, TopOfCapitalsLiesAtThePlaceOfATextAlignedAtItsTop)
+TEST(PictureTexts, TopOfCapitalsLiesAtTheAnchorOfATextAlignedAtItsTop)
 {
     STextFeature text = Text("H", 30, 60);
     text.vertical = EFeatureVertical::Top;
@@ -77,7 +77,7 @@ TEST(PictureTexts, TopOfCapitalsLiesAtThePlaceOfATextAlignedAtItsTop)
     EXPECT_NEAR(InkOf(text).bottom, 40, 1);
 }
 
-TEST(PictureTexts, MiddleOfCapitalsLiesAtThePlaceOfATextAlignedAtItsMiddle)
+TEST(PictureTexts, MiddleOfCapitalsLiesAtTheAnchorOfATextAlignedAtItsMiddle)
 {
     STextFeature text = Text("H", 30, 60);
     text.vertical = EFeatureVertical::Middle;
@@ -85,7 +85,7 @@ TEST(PictureTexts, MiddleOfCapitalsLiesAtThePlaceOfATextAlignedAtItsMiddle)
     EXPECT_NEAR(InkOf(text).bottom, 50, 1);
 }
 
-TEST(PictureTexts, DescendersStandOnThePlaceOfATextAlignedAtItsBottom)
+TEST(PictureTexts, DescendersStandOnTheAnchorOfATextAlignedAtItsBottom)
 {
     STextFeature text = Text("H", 30, 30);
     text.vertical = EFeatureVertical::Bottom;

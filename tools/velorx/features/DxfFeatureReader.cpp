@@ -38,7 +38,7 @@ EFeatureAlign Opposite(EFeatureAlign align)
 
 CDxfFeatureReader::CDxfFeatureReader(IFeatureSink& features, CFeatureTally& counts,
                                      const CDxfSurvey& firstLook, CDxfTally& expected,
-                                     const SSourceOptions& options)
+                                     const SReadingOptions& options)
     : sink(features), tally(counts), survey(firstLook), firstTally(expected),
       progress(options.progress), chords(options.chord), tolerance(chords.Tolerance()),
       styles(firstLook)

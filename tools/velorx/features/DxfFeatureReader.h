@@ -31,7 +31,7 @@ public:
     /// All but the options outlive this object. `expected` is the tally of the first look; it hears of what
     /// the library delivers, so that it knows what does not come.
     CDxfFeatureReader(IFeatureSink& features, CFeatureTally& counts, const CDxfSurvey& firstLook,
-                      CDxfTally& expected, const SSourceOptions& options);
+                      CDxfTally& expected, const SReadingOptions& options);
 
     /// No more than `count` elements of blocks are drawn, five million unless told otherwise.
     void LimitDrawn(qint64 count) { mostDrawn = count; }

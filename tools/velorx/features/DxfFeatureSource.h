@@ -11,7 +11,8 @@ namespace velorx {
 class CDxfFeatureSource final : public IFeatureSource
 {
 public:
-    CDxfFeatureSource(QString file, const SSourceOptions& how) : path(std::move(file)), options(how)
+    CDxfFeatureSource(QString file, const SReadingOptions& how)
+        : path(std::move(file)), options(how)
     {
     }
 
@@ -19,7 +20,7 @@ public:
 
 private:
     QString path;
-    SSourceOptions options;
+    SReadingOptions options;
 };
 
 } // namespace velorx

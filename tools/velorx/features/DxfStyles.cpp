@@ -57,7 +57,7 @@ constexpr SFontFile kFontFiles[] = {
 
 } // namespace
 
-SDxfTypeface TypefaceOf(const QString& fontFile)
+SDxfTypeface TypefaceFromFile(const QString& fontFile)
 {
     const int folder = std::max(fontFile.lastIndexOf(u'/'), fontFile.lastIndexOf(u'\\'));
     const QString file = fontFile.mid(folder + 1);
@@ -146,7 +146,7 @@ SDxfTypeface CDxfStyles::Typeface(const QString& name) const
     if (style == nullptr) {
         return {};
     }
-    return style->faceName.isEmpty() ? TypefaceOf(style->fontFile)
+    return style->faceName.isEmpty() ? TypefaceFromFile(style->fontFile)
                                      : SDxfTypeface{style->faceName, style->bold, style->italic};
 }
 

@@ -22,9 +22,9 @@ struct SDxfTypeface
 };
 
 /// The typeface in a font file, "arialbd.ttf"; none for files of shapes.
-SDxfTypeface TypefaceOf(const QString& fontFile);
+SDxfTypeface TypefaceFromFile(const QString& fontFile);
 
-/// The font file of `typeface`, so that `TypefaceOf` tells it again, and for common ones its cut as well.
+/// The font file of `typeface`, so that `TypefaceFromFile` tells it again, and for common ones its cut as well.
 QString FontFileOf(const SDxfTypeface& typeface);
 
 /// What the tables of a drawing tell. Memory grows with the number of names.

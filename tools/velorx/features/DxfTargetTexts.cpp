@@ -21,7 +21,7 @@ constexpr int kLongestText = 255;
 constexpr int kBaseLine = 12; // of the writer's alignments
 constexpr char kUsualTypeface[] = "Arial";
 
-QString TypefaceOf(const STextFeature& text)
+QString TypefaceFor(const STextFeature& text)
 {
     const bool isCut = text.isBold || text.isItalic;
     return text.font.isEmpty() && isCut ? QString::fromLatin1(kUsualTypeface) : text.font;
@@ -36,7 +36,7 @@ QString Number(double number)
 // The codes that a text begins with.
 QString Formats(const STextFeature& text)
 {
-    const QString typeface = TypefaceOf(text);
+    const QString typeface = TypefaceFor(text);
     QString codes;
     if (!typeface.isEmpty()) {
         codes += QStringLiteral("\\f%1|b%2|i%3;")
@@ -105,7 +105,7 @@ void CDxfFeatureTarget::FillText(CTextDXF& record, const STextFeature& text)
 CTextStyleDXF CDxfFeatureTarget::TextStyle(const STextFeature& text)
 {
     CTextStyleDXF style;
-    const QString typeface = TypefaceOf(text);
+    const QString typeface = TypefaceFor(text);
     if (!typeface.isEmpty()) {
         const QString name = typeface + (text.isBold ? QStringLiteral(" Bold") : QString())
             + (text.isItalic ? QStringLiteral(" Italic") : QString());

@@ -19,7 +19,7 @@ namespace {
 struct SSourceMaker
 {
     std::string_view family;
-    std::unique_ptr<IFeatureSource> (*make)(const QString& path, const SSourceOptions& options);
+    std::unique_ptr<IFeatureSource> (*make)(const QString& path, const SReadingOptions& options);
 };
 
 struct STargetMaker
@@ -29,7 +29,7 @@ struct STargetMaker
 };
 
 template <class T>
-std::unique_ptr<IFeatureSource> Source(const QString& path, const SSourceOptions& options)
+std::unique_ptr<IFeatureSource> Source(const QString& path, const SReadingOptions& options)
 {
     return std::make_unique<T>(path, options);
 }
@@ -78,7 +78,7 @@ auto FindMaker(const TMakers& makers, std::string_view family)
 } // namespace
 
 std::unique_ptr<IFeatureSource> MakeFeatureSource(std::string_view family, const QString& path,
-                                                  const SSourceOptions& options)
+                                                  const SReadingOptions& options)
 {
     const auto make = FindMaker(Sources(), family);
     return make != nullptr ? make(path, options) : nullptr;

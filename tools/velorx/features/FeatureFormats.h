@@ -16,7 +16,7 @@ class CFeatureTally;
 /// A source for the file `path`, which can be opened and is of the family `family`; null if there is
 /// none for it.
 std::unique_ptr<IFeatureSource> MakeFeatureSource(std::string_view family, const QString& path,
-                                                  const SSourceOptions& options);
+                                                  const SReadingOptions& options);
 
 /// A target of the family `family`, whose losses go to `tally`, which outlives it; null if there is none
 /// for it.

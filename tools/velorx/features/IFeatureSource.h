@@ -11,7 +11,7 @@ class CFeatureTally;
 class IFeatureSink;
 
 /// How a source is to be read.
-struct SSourceOptions
+struct SReadingOptions
 {
     double chord = 0.01; ///< Curves become chords that are off by no more than this, file units.
     VelorExchange::dxf::IDXFProgress* progress = nullptr; ///< Not owned, can be null.

@@ -49,10 +49,10 @@ CFeatureLine RingOf(const std::vector<CPoint2D>& points)
 } // namespace
 
 CMifFeatureReader::CMifFeatureReader(const SMifFiles& files, QString layer,
-                                     const SSourceOptions& sourceOptions, IFeatureSink& target,
+                                     const SReadingOptions& readingOptions, IFeatureSink& target,
                                      CFeatureTally& counts)
-    : rows(files.table, files.rows), tableLayer(std::move(layer)), chords(sourceOptions.chord),
-      progress(sourceOptions.progress), sink(target), tally(counts),
+    : rows(files.table, files.rows), tableLayer(std::move(layer)), chords(readingOptions.chord),
+      progress(readingOptions.progress), sink(target), tally(counts),
       fileSize(QFileInfo(files.table).size())
 {
 }

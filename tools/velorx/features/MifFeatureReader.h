@@ -24,7 +24,7 @@ class CMifFeatureReader final : public VelorExchange::mif::IMIFReader
 public:
     /// `sink`, `tally` and the progress of `options` outlive it. `layer` is the layer of objects whose row
     /// tells none.
-    CMifFeatureReader(const SMifFiles& files, QString layer, const SSourceOptions& options,
+    CMifFeatureReader(const SMifFiles& files, QString layer, const SReadingOptions& options,
                       IFeatureSink& sink, CFeatureTally& tally);
 
     void AddArc(const VelorExchange::mif::CArcMIF& arc) override;

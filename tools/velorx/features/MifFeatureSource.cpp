@@ -40,8 +40,8 @@ void RemarkOnHeader(const QString& path, CFeatureTally& tally)
 
 } // namespace
 
-CMifFeatureSource::CMifFeatureSource(QString file, const SSourceOptions& sourceOptions)
-    : path(std::move(file)), options(sourceOptions)
+CMifFeatureSource::CMifFeatureSource(QString file, const SReadingOptions& readingOptions)
+    : path(std::move(file)), options(readingOptions)
 {
 }
 

@@ -13,13 +13,13 @@ class CMifFeatureSource final : public IFeatureSource
 {
 public:
     /// `path` is the ".mif", as `PathFromBytes` makes it.
-    CMifFeatureSource(QString path, const SSourceOptions& options);
+    CMifFeatureSource(QString path, const SReadingOptions& options);
 
     QString Read(IFeatureSink& sink, CFeatureTally& tally) override;
 
 private:
     const QString path;
-    const SSourceOptions options;
+    const SReadingOptions options;
 };
 
 } // namespace velorx

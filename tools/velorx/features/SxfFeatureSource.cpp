@@ -21,8 +21,8 @@ constexpr int kCommonScale = 1000;
 
 } // namespace
 
-CSxfFeatureSource::CSxfFeatureSource(QString file, const SSourceOptions& sourceOptions)
-    : path(std::move(file)), options(sourceOptions)
+CSxfFeatureSource::CSxfFeatureSource(QString file, const SReadingOptions& readingOptions)
+    : path(std::move(file)), options(readingOptions)
 {
 }
 

@@ -12,13 +12,13 @@ namespace velorx {
 class CSxfFeatureSource final : public IFeatureSource
 {
 public:
-    CSxfFeatureSource(QString file, const SSourceOptions& sourceOptions);
+    CSxfFeatureSource(QString file, const SReadingOptions& readingOptions);
 
     QString Read(IFeatureSink& sink, CFeatureTally& tally) override;
 
 private:
     QString path;
-    SSourceOptions options;
+    SReadingOptions options;
 };
 
 } // namespace velorx

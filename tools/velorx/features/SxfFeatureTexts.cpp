@@ -73,7 +73,7 @@ void CSxfFeatures::HandOnPart(STextFeature& feature, const CTextObject& text, st
     const SSxfAlign align = FromSxfAlign(part == 0 ? text.image.align : text.extraAligns[part - 1]);
     const SSxfTextLine line = {{points.front().y, points.front().x},
                                {points.back().y, points.back().x}};
-    const CPoint2D place = PlaceOn(line, align.along);
+    const CPoint2D place = PointAlong(line, align.along);
     feature.position = {place.y, place.x, points.front().z};
     feature.rotation = SxfDirection(points);
     feature.align = align.along;

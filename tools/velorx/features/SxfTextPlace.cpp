@@ -57,7 +57,7 @@ SSxfTextLine MakeTextLine(const CPoint2D& place, double rotation, double length,
     return {first, {first.x + step.x, first.y + step.y}};
 }
 
-CPoint2D PlaceOn(const SSxfTextLine& line, EFeatureAlign along)
+CPoint2D PointAlong(const SSxfTextLine& line, EFeatureAlign along)
 {
     const double ahead = ShareAhead(along);
     return {line.first.x + (line.last.x - line.first.x) * ahead,

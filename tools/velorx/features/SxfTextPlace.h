@@ -31,6 +31,6 @@ SSxfTextLine MakeTextLine(const VelorExchange::CPoint2D& place, double rotation,
                           EFeatureAlign along);
 
 /// Where a text's place lies on its line.
-VelorExchange::CPoint2D PlaceOn(const SSxfTextLine& line, EFeatureAlign along);
+VelorExchange::CPoint2D PointAlong(const SSxfTextLine& line, EFeatureAlign along);
 
 } // namespace velorx

@@ -16,7 +16,7 @@ QString WhyNoPictures()
 QString DrawPicture(const SPictureJob& job, CConversionReport& report)
 {
     const CPictureSession session;
-    SSourceOptions options;
+    SReadingOptions options;
     options.progress = job.progress;
     const auto source = MakeFeatureSource(job.family, job.source, options);
     if (source == nullptr) {
