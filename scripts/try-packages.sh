@@ -28,6 +28,15 @@ echo "packages: installed"
 velorx info survey-plan.dxf | head -n 5
 velorx convert survey-plan.dxf again.dxf | tail -n 3
 [ -s again.dxf ]
+velorx convert survey-plan.dxf plan.sxf >/dev/null
+velorx check plan.sxf
+velorx render survey-plan.dxf plan.png
+[ "$(head -c 4 plan.png | tail -c 3)" = PNG ]
+velorx render survey-plan.dxf plan.pdf
+[ "$(head -c 4 plan.pdf)" = %PDF ]
+for page in velorx velorx-info velorx-convert velorx-render velorx-check; do
+    [ -s /usr/share/man/man1/$page.1.gz ]
+done
 apt-get install -y -qq --no-install-recommends g++ cmake make pkg-config >/dev/null
 cmake -B build . >/dev/null
 cmake --build build
@@ -37,5 +46,5 @@ build/DrawingToTables survey-plan.dxf tables | head -n 4
 c++ -std=c++17 -fPIC DrawingToTables.cpp $(pkg-config --cflags --libs velorexchange) -o by-pkg-config
 dpkg --remove velorx libvelorexchange-dev libvelorexchange1 >/dev/null
 ! command -v velorx
-echo "packages: velorx runs, the tutorial's program is built by CMake and by pkg-config, all goes away again"
+echo "packages: velorx runs and draws, the tutorial's program is built by CMake and by pkg-config, all goes away again"
 EOF
