@@ -40,7 +40,7 @@ LOGGED = re.compile(r"^Записаны в файл .* - (\d+)$", re.M)
 # Refusals that follow from the source and are no failure.
 REFUSALS = re.compile("|".join((
     "there is nothing in it that a map could hold",  # SXF files are made of objects only
-    r"binary ones are not read",
+    r"it does not start like a text drawing",
     "the header cannot be read",  # a table with columns of types that are not read
 )))
 

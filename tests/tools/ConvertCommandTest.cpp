@@ -362,4 +362,19 @@ TEST(ConvertCommand, NeitherReportNorResultsDependOnTheNumberOfJobs)
     }
 }
 
+TEST(ConvertCommand, DrawingWithoutItsEndMarkIsConvertedAndSoSaid)
+{
+    const CTemporaryFolder folder;
+    const std::string whole = SmallDrawing();
+    const std::string cut = folder.Write("cut.dxf", whole.substr(0, whole.rfind("0\nEOF")));
+    const std::string sound = folder.Write("sound.dxf", whole);
+    for (const char* name : {"/out.dxf", "/out.mif"}) {
+        const SRun run = RunVelorx({"convert", "--force", cut, folder.path + name});
+        EXPECT_EQ(run.exitCode, 0);
+        EXPECT_TRUE(Contains(run.out, "The drawing has no end mark (0, EOF)")) << run.out;
+        EXPECT_FALSE(Contains(RunVelorx({"convert", "--force", sound, folder.path + name}).out,
+                              "no end mark"));
+    }
+}
+
 } // namespace velorx::test

@@ -49,7 +49,7 @@ int Written(const QJsonObject& report)
 bool IsRefusal(const std::string& error)
 {
     for (const char* words : {"there is nothing in it that a map could hold",
-                              "binary ones are not read", "the header cannot be read"})
+                              "it does not start like a text drawing", "the header cannot be read"})
     {
         if (error.find(words) != std::string::npos) {
             return true;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "tools/velorx/formats/DxfContent.h"
 
+#include "tests/support/TextFile.h"
+
 #include <gtest/gtest.h>
 
 namespace velorx {
@@ -37,6 +39,21 @@ TEST(DxfContent, FindsTheVersionNearTheStart)
     EXPECT_EQ(VersionNearStart("9\n$ACADVER\n1\nlatest\n"), 1009);
     EXPECT_EQ(VersionNearStart("9\n$ACADVER"), 1009);
     EXPECT_EQ(VersionNearStart(""), 1009);
+}
+
+TEST(DxfContent, KnowsTheEndMarkBySeveralLineEnds)
+{
+    const auto hasEndMark = [](const QByteArray& drawing) {
+        const VelorExchange::test::CTextFile file(drawing);
+        return HasEndMark(file.Path());
+    };
+    EXPECT_TRUE(hasEndMark("0\nENDSEC\n0\nEOF\n"));
+    EXPECT_TRUE(hasEndMark("  0\r\nENDSEC\r\n  0\r\nEOF"));
+    EXPECT_TRUE(hasEndMark("0\rENDSEC\r0\rEOF\r\r"));
+    EXPECT_TRUE(hasEndMark(QByteArray(10000, '\n') + "0\nEOF\n"));
+    EXPECT_FALSE(hasEndMark("0\nENDSEC\n"));
+    EXPECT_FALSE(hasEndMark("1\nEOF\n"));
+    EXPECT_FALSE(hasEndMark(""));
 }
 
 } // namespace velorx

@@ -170,7 +170,7 @@ TEST_F(Info, TellsTheExtentsAsDelivered)
                                  "9\n$EXTMIN\n10\n1.5\n20\n-2\n30\n0\n"
                                  "9\n$EXTMAX\n10\n1e20\n20\nnonsense\n30\n3\n"));
     EXPECT_TRUE(Contains(run.out,
-                         "  Version       1009\n"
+                         "  Version       AC1009\n"
                          "  Extents from  1.5, -2, 0\n"
                          "  Extents to    1e+20, 0, 3\n"))
         << run.out;
@@ -179,7 +179,7 @@ TEST_F(Info, TellsTheExtentsAsDelivered)
 TEST_F(Info, TakesTheVersionOfAHeaderThatDoesNotEnd)
 {
     const std::string content = "0\nSECTION\n2\nHEADER\n9\n$ACADVER\n1\nAC1027\n";
-    EXPECT_TRUE(Contains(Run(content).out, "  Version  1027 (no complete header)\n"));
+    EXPECT_TRUE(Contains(Run(content).out, "  Version   AC1027 (no complete header)\n"));
     EXPECT_EQ(Json(content).value("version").toInt(), 1027);
     EXPECT_EQ(Compact(Json(content).value("callbacks")).toStdString(), "{}");
 }
@@ -187,7 +187,7 @@ TEST_F(Info, TakesTheVersionOfAHeaderThatDoesNotEnd)
 TEST_F(Info, SaysSoWhereNoHeaderWasRead)
 {
     const std::string content = Section("ENTITIES", "0\nLINE\n8\n0\n");
-    EXPECT_TRUE(Contains(Run(content).out, "  Version  1009 (no complete header)\n"));
+    EXPECT_TRUE(Contains(Run(content).out, "  Version   AC1009 (no complete header)\n"));
     EXPECT_TRUE(Json(content).value("extents").isNull());
     EXPECT_EQ(Json(content).value("version").toInt(), 1009);
 }
@@ -288,6 +288,29 @@ TEST_F(Info, FileOfNoKnownKindIsAFailure)
     EXPECT_EQ(run.exitCode, 1);
     EXPECT_EQ(run.out, "");
     EXPECT_TRUE(Contains(run.err, file + " is of no kind that velorx reads (*.dxf")) << run.err;
+}
+
+TEST_F(Info, BinaryDrawingIsToldTheWayOut)
+{
+    const SRun run = Run("AutoCAD Binary DXF\r\n\x1a");
+    EXPECT_TRUE(Contains(run.out, "a binary one, which is not read: save it as text\n")) << run.out;
+}
+
+TEST_F(Info, EmptyFileIsToldToBeNoDrawing)
+{
+    const SRun run = Run("");
+    EXPECT_TRUE(Contains(run.out, "  Content  none: it does not start like a text drawing\n"))
+        << run.out;
+}
+
+TEST_F(Info, MissingEndMarkIsTold)
+{
+    const std::string drawing = Section("TABLES", Layer("A"));
+    EXPECT_TRUE(
+        Contains(Run(drawing).out, "  End mark  missing: the file may have been cut short"));
+    EXPECT_FALSE(Contains(Run(drawing + "0\nEOF\n").out, "End mark"));
+    EXPECT_FALSE(Json(drawing).value("end_mark").toBool(true));
+    EXPECT_TRUE(Json(drawing + "0\nEOF\n").value("end_mark").toBool());
 }
 
 TEST_F(Info, KnowsDrawingsByContentWhereTheNameTellsNothing)

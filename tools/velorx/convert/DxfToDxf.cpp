@@ -5,10 +5,7 @@
 #include "tools/velorx/formats/DxfContent.h"
 #include "tools/velorx/formats/DxfSurvey.h"
 #include "tools/velorx/formats/DxfTally.h"
-#include "tools/velorx/info/Family.h"
 #include "VelorExchange/foundation/ExportLog.h"
-
-#include <QFile>
 
 #include <memory>
 
@@ -16,21 +13,12 @@ namespace velorx {
 
 using namespace VelorExchange::dxf;
 
-namespace {
-
-QByteArray HeadOf(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.read(kHeadSize) : QByteArray();
-}
-
-} // namespace
-
 // Two passes: the first for what the reader leaves out, the second through the library.
 QString ConvertDxfToDxf(const SConversionJob& job, CConversionReport& report)
 {
-    if (!IsDxfContent(HeadOf(job.source))) {
-        return QStringLiteral("it does not start like a text drawing (binary ones are not read)");
+    const QString fault = WhyNoDrawing(job.source);
+    if (!fault.isEmpty()) {
+        return fault;
     }
     CDxfTally tally;
     CDxfSurvey survey(tally);
@@ -52,6 +40,9 @@ QString ConvertDxfToDxf(const SConversionJob& job, CConversionReport& report)
     writer->Rewrite(job.target);
     log.GetText(report.log);
     tally.FillReport(report);
+    if (!HasEndMark(job.source)) {
+        report.remarks.push_back(QLatin1String(kNoEndMark));
+    }
     return {};
 }
 

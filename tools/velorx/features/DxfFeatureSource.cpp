@@ -8,7 +8,6 @@
 #include "tools/velorx/formats/DxfMender.h"
 #include "tools/velorx/formats/DxfSurvey.h"
 #include "tools/velorx/formats/DxfTally.h"
-#include "tools/velorx/info/Family.h"
 #include "VelorExchange/dxf/read/Read.h"
 
 #include <QFile>
@@ -43,12 +42,6 @@ bool IsKept(const QString& what)
 {
     return std::any_of(std::begin(kKept), std::end(kKept),
                        [&what](EDxfLoss loss) { return what == QLatin1String(LossText(loss)); });
-}
-
-QByteArray HeadOf(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.read(kHeadSize) : QByteArray();
 }
 
 // What is drawn on a plane that is seen from behind is right where it is mended.
@@ -109,8 +102,9 @@ QString NameOf(const QString& path)
 // would take something for what it is not.
 QString CDxfFeatureSource::Read(IFeatureSink& sink, CFeatureTally& tally)
 {
-    if (!IsDxfContent(HeadOf(path))) {
-        return QStringLiteral("it does not start like a text drawing (binary ones are not read)");
+    const QString fault = WhyNoDrawing(path);
+    if (!fault.isEmpty()) {
+        return fault;
     }
     CDxfTally counts;
     CDxfSurvey survey(counts);
@@ -129,6 +123,9 @@ QString CDxfFeatureSource::Read(IFeatureSink& sink, CFeatureTally& tally)
     counts.EndReading();
     HandOnLosses(counts, survey, tally);
     HandOnRest(survey, tally);
+    if (!HasEndMark(path)) {
+        tally.Remark(QLatin1String(kNoEndMark));
+    }
     return isWhole ? QString() : QStringLiteral("the drawing ends inside a block");
 }
 

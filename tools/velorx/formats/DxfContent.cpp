@@ -1,11 +1,17 @@
 // SPDX-License-Identifier: MIT
 #include "tools/velorx/formats/DxfContent.h"
 
+#include <QFile>
+
+#include <algorithm>
+
 namespace velorx {
 
 namespace {
 
 constexpr char kComment[] = "999";
+constexpr char kBinaryStart[] = "AutoCAD Binary DXF";
+constexpr qint64 kEndSize = 4096;
 constexpr int kVersionDigits = 4;
 constexpr int kDefaultVersion = 1009;
 
@@ -33,6 +39,38 @@ bool IsDxfContent(const QByteArray& head)
         if (code != kComment) {
             return code == "0" && value.toUpper() == "SECTION";
         }
+    }
+    return false;
+}
+
+QString WhyNoDrawing(const QString& path)
+{
+    QFile file(path);
+    const QByteArray head = file.open(QIODevice::ReadOnly) ? file.read(kEndSize) : QByteArray();
+    if (IsDxfContent(head)) {
+        return {};
+    }
+    return head.startsWith(kBinaryStart) ? QStringLiteral(
+               "it does not start like a text drawing but like a binary one, which is not "
+               "read: save it as text")
+                                         : QStringLiteral("it does not start like a text drawing");
+}
+
+bool HasEndMark(const QString& path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly) || !file.seek(std::max<qint64>(file.size() - kEndSize, 0)))
+    {
+        return false;
+    }
+    QByteArray rest = file.read(kEndSize);
+    QByteArray before;
+    while (!rest.isEmpty()) {
+        const QByteArray line = TakeLine(rest);
+        if (line == "EOF" && before == "0") {
+            return true;
+        }
+        before = line;
     }
     return false;
 }

@@ -8,6 +8,8 @@
 
 #include <boost/variant2/variant.hpp>
 
+#include <algorithm>
+
 namespace velorx {
 
 using namespace VelorExchange::dxf;
@@ -28,7 +30,20 @@ QString CDxfSummary::Read(const QString& path, IDXFProgress* bar)
     result = VelorExchange::dxf::Read(path, this);
     progress = nullptr;
     version = headers > 0 ? header.version : VersionNearStart(HeadOf(path));
-    return result ? QString() : QStringLiteral("the drawing ends inside a block");
+    hasEndMark = HasEndMark(path);
+    if (!result) {
+        return QStringLiteral("the drawing ends inside a block");
+    }
+    fault = IsEmpty() ? WhyNoDrawing(path) : QString();
+    return {};
+}
+
+// Whether nothing at all was delivered.
+bool CDxfSummary::IsEmpty() const
+{
+    const auto isZero = [](qint64 count) { return count == 0; };
+    return headers + layers.total + textStyles.total + lineTypes.total + blocks.total == 0
+        && std::all_of(drawing.begin(), drawing.end(), isZero);
 }
 
 // ---- Entities ---------------------------------------------------------------------------------

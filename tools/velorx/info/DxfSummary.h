@@ -58,6 +58,8 @@ public:
     VelorExchange::dxf::IDXFProgress* GetProgress() override { return progress; }
 
     bool result = false; ///< What `dxf::Read` returned.
+    QString fault; ///< Why there is nothing to be read, in words that follow its name; else empty.
+    bool hasEndMark = false; ///< Whether the file ends with its mark.
     qint64 headers = 0; ///< Calls of `OnHeader`.
     int version = 0; ///< That of the header, or what the file tells without a complete one.
     VelorExchange::dxf::CHeaderDXF header; ///< The last one delivered, or its defaults.
@@ -71,6 +73,8 @@ public:
     qint64 insertAttributes = 0; ///< Attributes of all inserts, in the drawing and in blocks.
 
 private:
+    bool IsEmpty() const;
+
     VelorExchange::dxf::IDXFProgress* progress = nullptr;
 };
 

@@ -96,6 +96,7 @@ QJsonObject CDxfSummary::ToJson() const
     return QJsonObject{
         {QStringLiteral("result"), result},
         {QStringLiteral("version"), version},
+        {QStringLiteral("end_mark"), hasEndMark},
         {QStringLiteral("extents"), Extents(*this)},
         {QStringLiteral("layers"), ToArray(layers, LayerObject)},
         {QStringLiteral("text_styles"), ToArray(textStyles, TextStyleObject)},

@@ -13,6 +13,8 @@ namespace {
 
 using EAlign = CTextTable::EAlign;
 
+constexpr int kVersionDigits = 4;
+
 QString YesNo(bool value)
 {
     return value ? QStringLiteral("yes") : QStringLiteral("no");
@@ -27,14 +29,21 @@ QString PointText(const VelorExchange::CPoint3D& point)
 QString HeaderText(const CDxfSummary& summary)
 {
     CTextTable table({EAlign::Left, EAlign::Left});
-    const QString version = QString::number(summary.version);
+    const QString version =
+        QStringLiteral("AC%1").arg(summary.version, kVersionDigits, 10, QLatin1Char('0'));
     if (summary.headers == 0) {
         table.Add({QStringLiteral("Version"), version + QStringLiteral(" (no complete header)")});
-        return table.ToText();
+    } else {
+        table.Add({QStringLiteral("Version"), version});
+        table.Add({QStringLiteral("Extents from"), PointText(summary.header.extMin)});
+        table.Add({QStringLiteral("Extents to"), PointText(summary.header.extMax)});
     }
-    table.Add({QStringLiteral("Version"), version});
-    table.Add({QStringLiteral("Extents from"), PointText(summary.header.extMin)});
-    table.Add({QStringLiteral("Extents to"), PointText(summary.header.extMax)});
+    if (!summary.fault.isEmpty()) {
+        table.Add({QStringLiteral("Content"), QStringLiteral("none: ") + summary.fault});
+    } else if (!summary.hasEndMark) {
+        table.Add({QStringLiteral("End mark"),
+                   QStringLiteral("missing: the file may have been cut short")});
+    }
     return table.ToText();
 }
 
