@@ -377,4 +377,16 @@ TEST(ConvertCommand, DrawingWithoutItsEndMarkIsConvertedAndSoSaid)
     }
 }
 
+TEST(ConvertCommand, MapThatIsNoneLeavesTheOldTarget)
+{
+    const CTemporaryFolder folder;
+    const std::string source = folder.Write("map.sxf", "Dear reader,\n");
+    for (const char* name : {"/old.dxf", "/old.sxf", "/old.txt"}) {
+        const std::string target = folder.Write(name, "old");
+        ExpectFailure(RunVelorx({"convert", "--force", source, target}),
+                      "cannot convert " + source + ": it does not start like an SXF map");
+        EXPECT_EQ(ReadFile(target), "old");
+    }
+}
+
 } // namespace velorx::test

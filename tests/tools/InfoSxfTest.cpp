@@ -263,4 +263,32 @@ TEST_F(InfoSxf, WhatWasReadAheadOfAFaultIsTold)
     EXPECT_EQ(run.err, "velorx: " + file + ": Некорректный формат файла\n");
 }
 
+TEST_F(InfoSxf, MapOfAnotherVersionIsAFailure)
+{
+    QByteArray map = BinaryMap();
+    map[10] = 3;
+    const std::string file = Write(map);
+    const SRun run = RunVelorx({"info", file});
+    EXPECT_EQ(run.exitCode, 1);
+    EXPECT_EQ(run.err,
+              "velorx: " + file
+                  + ": it is a map of version 3, and only those of version 4 are read\n");
+}
+
+TEST_F(InfoSxf, FileThatStartsLikeNoMapIsAFailure)
+{
+    const std::string file = Write("Dear reader,\n");
+    const SRun run = RunVelorx({"info", file});
+    EXPECT_EQ(run.exitCode, 1);
+    EXPECT_EQ(run.err, "velorx: " + file + ": it does not start like an SXF map\n");
+}
+
+TEST_F(InfoSxf, MapThatEndsAheadOfItsObjectsIsAFailure)
+{
+    const std::string file = Write(".SXF 4.0\n\nP000 Map\n");
+    const SRun run = RunVelorx({"info", file});
+    EXPECT_EQ(run.exitCode, 1);
+    EXPECT_EQ(run.err, "velorx: " + file + ": the map ends ahead of its objects (.DAT)\n");
+}
+
 } // namespace velorx::test

@@ -14,6 +14,8 @@ namespace velorx {
 namespace {
 
 constexpr char kMagic[] = {'S', 'X', 'F', '\0'};
+constexpr int kVersionOffset = 8;
+constexpr qint64 kStartSize = 4096;
 constexpr int kHeaderSize = 444; // as far as anything of use stands
 constexpr int kNameSize = 32;
 constexpr int kSheetOffset = 28;
@@ -62,6 +64,21 @@ QString Rest(const QByteArray& line)
     return SxfFieldText(line.mid(line.indexOf(' ')));
 }
 
+// The library takes for the text form whatever is not a binary map of version 4.
+QString WhyNoObjects(QFile& file)
+{
+    file.seek(0);
+    const QByteArray head = file.read(kStartSize);
+    if (IsSxfContent(head) && head.size() >= kVersionOffset + static_cast<int>(sizeof(qint32))) {
+        const auto word = Number<quint32>(head, kVersionOffset);
+        const quint32 version = word > 0xFFFFU ? word >> 16U : word;
+        return QStringLiteral("it is a map of version %1, and only those of version 4 are read")
+            .arg(version);
+    }
+    return IsSxfTextContent(head) ? QStringLiteral("the map ends ahead of its objects (.DAT)")
+                                  : QStringLiteral("it does not start like an SXF map");
+}
+
 // Up to the line with the count, which the library's reader looks for as well.
 void ReadPassport(QFile& file, SSxfHeader& header)
 {
@@ -81,6 +98,7 @@ void ReadPassport(QFile& file, SSxfHeader& header)
             return;
         }
     }
+    header.fault = WhyNoObjects(file);
 }
 
 } // namespace

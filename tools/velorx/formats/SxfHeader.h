@@ -9,6 +9,7 @@ namespace velorx {
 /// What stands ahead of the objects of an SXF map and does not reach a host.
 struct SSxfHeader
 {
+    QString fault; ///< Why there is nothing to be read, in words that follow its name; else empty.
     bool isText = false; ///< The text form.
     bool isUserMap = false; ///< A user map; only the text form tells.
     QString name; ///< Of the map; empty where the file tells none.

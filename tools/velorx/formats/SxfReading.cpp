@@ -186,6 +186,9 @@ private:
 QString ReadSxf(const QString& path, const SSxfHeader& header,
                 VelorExchange::dxf::IDXFProgress* progress, ISxfHost& host)
 {
+    if (!header.fault.isEmpty()) {
+        return header.fault;
+    }
     if (progress != nullptr) {
         progress->Begin(QString(), header.declaredRecords);
     }

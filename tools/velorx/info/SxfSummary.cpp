@@ -53,7 +53,7 @@ QString CSxfSummary::Read(const QString& path, VelorExchange::dxf::IDXFProgress*
         progress = nullptr;
     }
     if (result) {
-        return QString();
+        return header.fault;
     }
     const QString noMessage = QStringLiteral("the map ends inside a record");
     return message.isEmpty() ? noMessage : message;
