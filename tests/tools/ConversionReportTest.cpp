@@ -34,7 +34,7 @@ TEST(ConversionReport, TellsKindsLossesLayersAndRemarks)
               "\nCarried over\n"
               "  Kind  In the file  Inside blocks  Written  As\n"
               "  LINE            5              2        6  Pline\n"
-              "\nLost or changed\n"
+              "\nLost or changed (left out where nothing else is said)\n"
               "  7  colours, dropped (layers: Wells 4, Roads 3)\n"
               "\na remark\n");
 }
@@ -47,6 +47,13 @@ TEST(ConversionReport, NamesNoBlocksWhereThereAreNone)
               "\n\nCarried over\n"
               "  Kind  In the file  Written  As\n"
               "  Arc             5        5  LINE\n"
+              "\nNothing was lost or changed\n");
+}
+
+TEST(ConversionReport, SaysThatThereWasNothing)
+{
+    EXPECT_EQ(CConversionReport().ToText(),
+              "\n\nCarried over\n  Nothing: no objects were read\n"
               "\nNothing was lost or changed\n");
 }
 

@@ -70,7 +70,7 @@ TEST(ConvertCommand, WritesADrawingAndTellsWhatBecameOfIt)
     EXPECT_EQ(NamesIn(folder.path), Strings({"out.dxf"}));
     EXPECT_TRUE(Contains(run.out, "Экспорт в файл - " + folder.path + "/out.dxf")) << run.out;
     EXPECT_TRUE(Contains(run.out, "\nCarried over\n"));
-    EXPECT_TRUE(Contains(run.out, "\nLost or changed\n"));
+    EXPECT_TRUE(Contains(run.out, "\nLost or changed"));
 }
 
 TEST(ConvertCommand, WrongUsageEndsWithTwo)

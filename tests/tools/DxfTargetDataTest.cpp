@@ -37,7 +37,7 @@ TEST(DxfTargetData, AttributesComeBackAsTexts)
     EXPECT_EQ(attributes[4].value.toString(), "");
     EXPECT_EQ(read.points[1].attributes, nullptr);
     EXPECT_EQ(read.points[1].code, 0);
-    EXPECT_EQ(drawing.Lost("attributes that are no texts, written as such"), "3: Wells 3");
+    EXPECT_EQ(drawing.Lost("attributes that are no texts, written as texts"), "3: Wells 3");
 }
 
 TEST(DxfTargetData, AttributesAreHiddenAndStandAtTheObject)

@@ -140,8 +140,8 @@ TEST_F(SxfToSxf, ListsWhatNoFormHolds)
     EXPECT_EQ(result.log, "line 0 SYSTEM | (1 2) (3 4) ; 1:126=? ; 3:126=a b\nframe\n");
     EXPECT_EQ(Losses(result.report),
               "1 attributes that are not finite numbers\n"
-              "1 texts and attributes with letters that the code page lacks\n"
-              "1 attributes with line breaks or words of the format\n");
+              "1 texts and attributes with letters that the code page lacks, \"?\" in the result\n"
+              "1 attributes with line breaks or words of the format, written otherwise\n");
 }
 
 TEST_F(SxfToSxf, LongTextsOfAttributesAreCutWhereTheirLengthHasNoPlace)

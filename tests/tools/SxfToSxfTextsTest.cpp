@@ -123,8 +123,8 @@ TEST_F(SxfToSxf, WordsOfTheTextFormDoNotEndAnObject)
     const SConverted result = Convert(File(text), true);
     EXPECT_EQ(result.log, "frame\ntext 8 SYSTEM 'x. end. objx' 20 | (1 2) (1 8) ; 9:-1=a. Obj\n");
     EXPECT_EQ(Losses(result.report),
-              "1 attributes with line breaks or words of the format\n"
-              "1 texts with words of the format\n");
+              "1 attributes with line breaks or words of the format, written otherwise\n"
+              "1 texts with words of the format, written otherwise\n");
 }
 
 } // namespace velorx::test

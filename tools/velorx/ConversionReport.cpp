@@ -21,6 +21,9 @@ constexpr int kBlocksColumn = 2;
 // Most sources have no blocks, and then there is no column for them.
 QString KindsText(const std::vector<SConvertedKind>& kinds)
 {
+    if (kinds.empty()) {
+        return QStringLiteral("\nCarried over\n  Nothing: no objects were read\n");
+    }
     const bool hasBlocks = std::any_of(
         kinds.begin(), kinds.end(), [](const SConvertedKind& kind) { return kind.inBlocks > 0; });
     std::vector<EAlign> columns(hasBlocks ? 5 : 4, EAlign::Right);
@@ -77,7 +80,8 @@ QString LossesText(const std::vector<SConversionLoss>& losses)
     for (const SConversionLoss& loss : losses) {
         table.Add({QString::number(loss.count), Printable(loss.what + LayersText(loss.layers))});
     }
-    return QStringLiteral("\nLost or changed\n") + table.ToText();
+    return QStringLiteral("\nLost or changed (left out where nothing else is said)\n")
+        + table.ToText();
 }
 
 QJsonObject KindJson(const SConvertedKind& kind)

@@ -22,7 +22,7 @@ constexpr char kLetters[] =
     "texts with letters that have no place in the file, \"?\" in the result";
 constexpr char kSkewedImages[] = "images that are not rectangular, written as such";
 constexpr char kImageData[] = "attributes of images, dropped";
-constexpr char kTypedValues[] = "attributes that are no texts, written as such";
+constexpr char kTypedValues[] = "attributes that are no texts, written as texts";
 constexpr char kTags[] = "names of attributes changed, so that programs take them";
 constexpr char kLongValues[] = "attributes of more than 255 characters, cut";
 

@@ -189,7 +189,9 @@ void CSxfFitting::FitValue(PnrSemantic& semantic, const QString& layer)
     const QString told = semantic.value.toString();
     QString value = InOneLine(told);
     if (value != told) {
-        tally.Lose(QStringLiteral("attributes with line breaks or words of the format"), layer);
+        tally.Lose(
+            QStringLiteral("attributes with line breaks or words of the format, written otherwise"),
+            layer);
     }
     if (value.size() > kLongestValue) {
         tally.Lose(QStringLiteral("attributes were cut to 254 characters"), layer);
@@ -206,8 +208,10 @@ void CSxfFitting::CountLetters(const QString& text, const QString& layer)
     const bool isAscii = std::all_of(text.begin(), text.end(),
                                      [](QChar c) { return c < QChar(0x80) && c > QChar(0x1F); });
     if (!isAscii && !SxfCodec().canEncode(text)) {
-        tally.Lose(QStringLiteral("texts and attributes with letters that the code page lacks"),
-                   layer);
+        tally.Lose(
+            QStringLiteral(
+                "texts and attributes with letters that the code page lacks, \"?\" in the result"),
+            layer);
     }
 }
 

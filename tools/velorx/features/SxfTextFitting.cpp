@@ -120,7 +120,7 @@ void CSxfFitting::FitPart(QString& part, const QString& layer)
     for (QString& line : lines) {
         const QString fit = InOneLine(line);
         if (fit != line) {
-            tally.Lose(QStringLiteral("texts with words of the format"), layer);
+            tally.Lose(QStringLiteral("texts with words of the format, written otherwise"), layer);
             line = fit;
         }
         CountLetters(line, layer);
