@@ -32,7 +32,7 @@ def options_of_page(name):
 def main():
     problems = []
     top = help_of()
-    commands = re.findall(r"^  ([a-z]+) {2,}", top[top.index("Subcommands:"):], re.M)
+    commands = re.findall(r"^  ([a-z]+) {2,}", top[top.index("Commands:"):], re.M)
     if not commands:
         sys.exit("man: velorx --help names no command")
     overview = (pages / "velorx.md").read_text(encoding="utf-8")

@@ -362,6 +362,25 @@ TEST(ConvertCommand, NeitherReportNorResultsDependOnTheNumberOfJobs)
     }
 }
 
+TEST(ConvertCommand, SaysThatThereIsNothingToWriteTo)
+{
+    EXPECT_EQ(RunVelorx({"convert", kPlan}).err,
+              std::string("velorx: there is no file to write behind ") + kPlan
+                  + "\nvelorx convert --help tells how it is used.\n");
+}
+
+TEST(ConvertCommand, MapThatIsNoneLeavesTheOldTarget)
+{
+    const CTemporaryFolder folder;
+    const std::string source = folder.Write("map.sxf", "Dear reader,\n");
+    for (const char* name : {"/old.dxf", "/old.sxf", "/old.txt"}) {
+        const std::string target = folder.Write(name, "old");
+        ExpectFailure(RunVelorx({"convert", "--force", source, target}),
+                      "cannot convert " + source + ": it does not start like an SXF map");
+        EXPECT_EQ(ReadFile(target), "old");
+    }
+}
+
 TEST(ConvertCommand, DrawingWithoutItsEndMarkIsConvertedAndSoSaid)
 {
     const CTemporaryFolder folder;
@@ -377,16 +396,19 @@ TEST(ConvertCommand, DrawingWithoutItsEndMarkIsConvertedAndSoSaid)
     }
 }
 
-TEST(ConvertCommand, MapThatIsNoneLeavesTheOldTarget)
+TEST(ConvertCommand, ValuesThatAreNoNumbersAreToldInFewWords)
 {
-    const CTemporaryFolder folder;
-    const std::string source = folder.Write("map.sxf", "Dear reader,\n");
-    for (const char* name : {"/old.dxf", "/old.sxf", "/old.txt"}) {
-        const std::string target = folder.Write(name, "old");
-        ExpectFailure(RunVelorx({"convert", "--force", source, target}),
-                      "cannot convert " + source + ": it does not start like an SXF map");
-        EXPECT_EQ(ReadFile(target), "old");
-    }
+    EXPECT_EQ(RunVelorx({"convert", kPlan, "/tmp/velorx-out.sxf", "--scale", "abc"}).err,
+              "velorx: --scale: abc is no number above 0\n"
+              "velorx convert --help tells how it is used.\n");
+}
+
+TEST(ConvertCommand, NamesTheFormatsWhereNoneIsTold)
+{
+    EXPECT_EQ(RunVelorx({"convert", kPlan, "/tmp/out.doc"}).err,
+              "velorx: the ending of /tmp/out.doc tells no format that velorx writes; --to can: "
+              "dxf, mif, "
+              "sxf or txt\n");
 }
 
 } // namespace velorx::test

@@ -204,7 +204,7 @@ TEST_F(InfoSxf, KnowsTextMapsByTheirFirstLine)
     }
     const SRun other = RunVelorx({"info", Write("P000 Map\n.DAT 0\n.END\n", "map.txt")});
     EXPECT_EQ(other.exitCode, 1);
-    EXPECT_TRUE(Contains(other.err, "is of no kind that velorx reads")) << other.err;
+    EXPECT_TRUE(Contains(other.err, "it does not start like an SXF map")) << other.err;
 }
 
 TEST_F(InfoSxf, TellsThatThereIsNoScale)

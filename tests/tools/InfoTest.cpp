@@ -257,7 +257,7 @@ TEST_F(Info, FolderIsAFailure)
     const SRun run = RunVelorx({"info", folder.path});
     EXPECT_EQ(run.exitCode, 1);
     EXPECT_EQ(run.out, "");
-    EXPECT_EQ(run.err, "velorx: " + folder.path + " is a folder, not a file\n");
+    EXPECT_EQ(run.err, "velorx: cannot read " + folder.path + ": it is a folder, not a file\n");
 }
 
 TEST_F(Info, UnreadableFileIsAFailure)
@@ -283,11 +283,19 @@ TEST_F(Info, LinkToItselfIsAFailure)
 
 TEST_F(Info, FileOfNoKnownKindIsAFailure)
 {
-    const std::string file = Write("Dear reader,\n", "letter.txt");
+    const std::string file = Write("Dear reader,\n", "letter.doc");
     const SRun run = RunVelorx({"info", file});
     EXPECT_EQ(run.exitCode, 1);
     EXPECT_EQ(run.out, "");
-    EXPECT_TRUE(Contains(run.err, file + " is of no kind that velorx reads (*.dxf")) << run.err;
+    EXPECT_TRUE(Contains(run.err, file + ": it is of no kind that velorx reads (*.dxf")) << run.err;
+}
+
+TEST_F(Info, PlainTextIsToldToBeNoMap)
+{
+    const std::string file = Write("Dear reader,\n", "letter.txt");
+    const SRun run = RunVelorx({"info", file});
+    EXPECT_EQ(run.exitCode, 1);
+    EXPECT_EQ(run.err, "velorx: cannot read " + file + ": it does not start like an SXF map\n");
 }
 
 TEST_F(Info, BinaryDrawingIsToldTheWayOut)
@@ -311,6 +319,14 @@ TEST_F(Info, MissingEndMarkIsTold)
     EXPECT_FALSE(Contains(Run(drawing + "0\nEOF\n").out, "End mark"));
     EXPECT_FALSE(Json(drawing).value("end_mark").toBool(true));
     EXPECT_TRUE(Json(drawing + "0\nEOF\n").value("end_mark").toBool());
+}
+
+TEST_F(Info, RowsOfATableAreReadByTheTable)
+{
+    const std::string file = Write("1,2\n", "wells.mid");
+    EXPECT_EQ(RunVelorx({"info", file}).err,
+              "velorx: cannot read " + file
+                  + ": it holds the rows of a table, which is read by its .mif\n");
 }
 
 TEST_F(Info, KnowsDrawingsByContentWhereTheNameTellsNothing)

@@ -92,4 +92,22 @@ TEST(Velorx, ShowsNoProgressWhereTheWorkIsQuick)
     EXPECT_EQ(run.out, RunVelorx({"info", kPlan}).out);
 }
 
+TEST(Velorx, NamesTheCommandsWhereThereIsNone)
+{
+    EXPECT_EQ(RunVelorx({}).err,
+              "velorx: a command is missing: info, convert, check or render\n"
+              "velorx --help tells how it is used.\n");
+    EXPECT_EQ(RunVelorx({"frobnicate", kPlan}).err,
+              "velorx: there is no command frobnicate, only info, convert, check or render\n"
+              "velorx --help tells how it is used.\n");
+    EXPECT_EQ(RunVelorx({"--loud"}).err,
+              "velorx: there is no option --loud\nvelorx --help tells how it is used.\n");
+}
+
+TEST(Velorx, PointsToTheHelpOfTheCommandInHand)
+{
+    EXPECT_TRUE(Contains(RunVelorx({"info", "--loud", kPlan}).err,
+                         "\nvelorx info --help tells how it is used.\n"));
+}
+
 } // namespace velorx::test

@@ -27,9 +27,41 @@ std::string CheckCodePage(const std::string& name)
     return velorx::IsCodePage(name) ? std::string() : "unknown code page " + name;
 }
 
-std::string FailureMessage(const CLI::App* /*app*/, const CLI::Error& error)
+// "info, convert, check or render".
+std::string NamesOfCommands(const CLI::App& app)
 {
-    return std::string("velorx: ") + error.what() + "\nvelorx --help tells how it is used.\n";
+    const auto commands = app.get_subcommands([](const CLI::App*) { return true; });
+    std::string names;
+    for (const CLI::App* command : commands) {
+        const bool isLast = command == commands.back();
+        names += (names.empty() ? "" : isLast ? " or " : ", ") + command->get_name();
+    }
+    return names;
+}
+
+std::string WhatIsWrong(const CLI::App& app, const CLI::Error& error)
+{
+    const std::vector<std::string> rest = app.remaining();
+    if (!app.get_subcommands().empty() || error.get_name() != "RequiredError") {
+        return error.what();
+    }
+    if (rest.empty()) {
+        return "a command is missing: " + NamesOfCommands(app);
+    }
+    return rest.front().front() == '-'
+        ? "there is no option " + rest.front()
+        : "there is no command " + rest.front() + ", only " + NamesOfCommands(app);
+}
+
+// The help to look at is that of the command, once there is one.
+std::string FailureMessage(const CLI::App* app, const CLI::Error& error)
+{
+    std::string program = "velorx";
+    for (const CLI::App* command : app->get_subcommands()) {
+        program += ' ' + command->get_name();
+    }
+    return "velorx: " + WhatIsWrong(*app, error) + '\n' + program
+        + " --help tells how it is used.\n";
 }
 
 /// The commands, with what each of them has added to the parser.
@@ -53,6 +85,7 @@ CCommands AddCommands(CLI::App& app)
     commands.emplace_back(std::make_unique<velorx::CRenderCommand>(), nullptr);
     for (auto& [command, parser] : commands) {
         parser = command->AddTo(app);
+        parser->group("Commands");
     }
     return commands;
 }
@@ -65,6 +98,7 @@ int Run(int argc, char** argv)
     app.set_version_flag("--version", "velorx " VELORX_VERSION);
     app.footer(kFooter);
     app.require_subcommand(1);
+    app.get_formatter()->label("SUBCOMMAND", "COMMAND");
     app.failure_message(FailureMessage);
     AddCodePage(app, codePage);
     const CCommands commands = AddCommands(app);

@@ -22,7 +22,7 @@ TEST(PictureOptions, OtherTextIsNoSize)
     int height = 7;
     for (const char* text : {"", "800", "x600", "800x", "0x600", "-1x600", "800x600x2", "8ax6"}) {
         EXPECT_EQ(ParseSize(text, width, height),
-                  std::string(text) + " is not a size like 1600x1200");
+                  std::string(text) + " is not a size in pixels like 1600x1200 (A4 is 794x1123)");
     }
     EXPECT_EQ(width, 7);
 }

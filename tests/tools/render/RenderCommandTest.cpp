@@ -49,7 +49,7 @@ TEST_F(RenderCommand, UnknownEndingIsWrongUsage)
 TEST_F(RenderCommand, WrongSizeIsWrongUsage)
 {
     ExpectWrongUsage({"render", kPlan, Path("plan.png"), "--size", "800"},
-                     "800 is not a size like 1600x1200");
+                     "800 is not a size in pixels like 1600x1200 (A4 is 794x1123)");
     ExpectWrongUsage({"render", kPlan, Path("plan.png"), "--size", "40000x40000"}, "is too large");
 }
 

@@ -40,7 +40,7 @@ QString Check(const QString& path, SCheckedFile& result)
     probe.close();
     const SFamily* family = FindFamily(path, head);
     if (family == nullptr) {
-        return QStringLiteral("it is of no kind that velorx reads (%1)").arg(KnownExtensions());
+        return WhyNoFamily(path);
     }
     result.description = family->description;
     const auto checker = MakeChecker(family->name, IsTextMap(*family, head));

@@ -8,6 +8,7 @@
 #include <sys/stat.h>
 
 #include <algorithm>
+#include <cstddef>
 #include <cstring>
 #include <filesystem>
 #include <map>
@@ -142,6 +143,17 @@ void RefuseSources(SConversionPlan& plan)
     }
 }
 
+// "dxf, mif, sxf or txt".
+std::string Formats()
+{
+    const std::vector<std::string> extensions = TargetExtensions();
+    std::string formats = extensions.front();
+    for (std::size_t i = 1; i < extensions.size(); ++i) {
+        formats += (i + 1 < extensions.size() ? ", " : " or ") + extensions[i];
+    }
+    return formats;
+}
+
 // Empty, or the fault of the command line.
 std::string FindFamily(const std::string& target, const std::string& extension, bool isFolder,
                        SConversionPlan& plan)
@@ -151,9 +163,9 @@ std::string FindFamily(const std::string& target, const std::string& extension, 
     if (plan.family != nullptr) {
         return {};
     }
-    return isFolder ? "with a folder as the target, --to has to tell the format"
-                    : "the ending of " + target + " tells no format that velorx writes, so that "
-            + "--to has to";
+    return isFolder ? "with a folder as the target, --to has to tell the format: " + Formats()
+                    : "the ending of " + target + " tells no format that velorx writes; "
+            + "--to can: " + Formats();
 }
 
 } // namespace

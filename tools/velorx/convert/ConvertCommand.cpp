@@ -4,18 +4,20 @@
 #include "tools/velorx/convert/ConversionPlan.h"
 #include "tools/velorx/convert/ConversionSummary.h"
 #include "tools/velorx/convert/Interruption.h"
+#include "tools/velorx/convert/SourceFamily.h"
 #include "tools/velorx/convert/TargetFile.h"
 #include "tools/velorx/convert/TargetFolder.h"
 #include "tools/velorx/convert/TargetPlace.h"
 #include "tools/velorx/FileCount.h"
 #include "tools/velorx/HostCodec.h"
-#include "tools/velorx/info/Family.h"
 #include "tools/velorx/Output.h"
 #include "tools/velorx/ProgressBar.h"
 
+#include <QByteArray>
 #include <QFile>
 
 #include <algorithm>
+#include <cmath>
 #include <csignal>
 #include <filesystem>
 #include <memory>
@@ -40,6 +42,15 @@ int VersionNumber(const std::string& name)
         }
     }
     return SConversionOptions().drawingVersion;
+}
+
+// The parser's own check tells the whole range of the type.
+std::string CheckPositive(const std::string& text)
+{
+    bool isNumber = false;
+    const double number = QByteArray::fromStdString(text).toDouble(&isNumber);
+    return isNumber && std::isfinite(number) && number > 0.0 ? std::string()
+                                                             : text + " is no number above 0";
 }
 
 /// The parser knows one list of names where people see two things in it.
@@ -81,10 +92,9 @@ void CConvertCommand::AddFileOptions(CLI::App& command)
 {
     command
         .add_option("IN", names,
-                    "The files or folders to read (" + KnownExtensions().toStdString()
+                    "The files or folders to read (" + ConvertibleExtensions()
                         + "), and last the file or folder to write")
         ->required()
-        ->expected(2, -1)
         ->type_name("")
         ->option_text("... OUT");
     command.add_option("--to", extension, "Format to write, where the ending of OUT does not tell")
@@ -113,13 +123,13 @@ void CConvertCommand::AddValueOptions(CLI::App& command)
         .add_option("--chord", settings.options.chord,
                     "Curves may be off by this much where they become chords, in units of IN")
         ->type_name("D")
-        ->check(CLI::PositiveNumber, "", "")
+        ->check(CheckPositive, "", "")
         ->capture_default_str();
     command
         .add_option("--scale", settings.options.scale,
                     "Scale 1:N of SXF maps, where IN tells none or another is wanted")
         ->type_name("N")
-        ->check(CLI::PositiveNumber, "", "");
+        ->check(CheckPositive, "", "");
     command.add_option("--jobs", settings.threads, "Convert so many files at once")
         ->type_name("N")
         ->check(CLI::Range(1, kMostThreads), "", "")
@@ -129,6 +139,11 @@ void CConvertCommand::AddValueOptions(CLI::App& command)
 EExit CConvertCommand::Run()
 {
     settings.options.drawingVersion = VersionNumber(version);
+    if (names.size() < 2) {
+        PrintError("there is no file to write behind " + names.front()
+                   + "\nvelorx convert --help tells how it is used.");
+        return kExitUsage;
+    }
     const std::vector<std::string> sources(names.begin(), names.end() - 1);
     const SConversionPlan plan = PlanConversion(sources, names.back(), extension);
     if (!plan.usageFault.empty()) {

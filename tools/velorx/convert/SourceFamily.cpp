@@ -28,7 +28,7 @@ std::string FindSourceFamily(const std::string& path, const SFamily*& family)
     }
     family = FindFamily(probe.fileName(), probe.read(kHeadSize));
     if (family == nullptr) {
-        return "it is of no kind that velorx reads (" + KnownExtensions().toStdString() + ')';
+        return WhyNoFamily(probe.fileName()).toStdString();
     }
     // What can be converted can be written as well.
     if (FindTargetFamily(family->extension) == nullptr) {
@@ -36,6 +36,15 @@ std::string FindSourceFamily(const std::string& path, const SFamily*& family)
             + "\" cannot be converted";
     }
     return {};
+}
+
+std::string ConvertibleExtensions()
+{
+    std::string names;
+    for (const std::string& extension : TargetExtensions()) {
+        names += (names.empty() ? "*." : ", *.") + extension;
+    }
+    return names;
 }
 
 bool IsConvertible(const std::string& path)

@@ -11,6 +11,9 @@ namespace velorx {
 /// success, otherwise why the file cannot be converted.
 std::string FindSourceFamily(const std::string& path, const SFamily*& family);
 
+/// The endings of what can be converted, "*.dxf, *.mif".
+std::string ConvertibleExtensions();
+
 /// Whether a file of a folder is to be converted with it: its ending tells so, and of one that is used for other
 /// texts too the content has to agree.
 bool IsConvertible(const std::string& path);

@@ -54,6 +54,20 @@ const SFamily* FindFamily(const QString& path, const QByteArray& head)
     return nullptr;
 }
 
+QString WhyNoFamily(const QString& path)
+{
+    const QString extension = QFileInfo(path).suffix();
+    for (const SFamily& family : kFamilies) {
+        if (extension.compare(QLatin1String(family.extension), Qt::CaseInsensitive) == 0) {
+            return QStringLiteral("it does not start like an %1").arg(family.description);
+        }
+    }
+    if (extension.compare(QLatin1String("mid"), Qt::CaseInsensitive) == 0) {
+        return QStringLiteral("it holds the rows of a table, which is read by its .mif");
+    }
+    return QStringLiteral("it is of no kind that velorx reads (%1)").arg(KnownExtensions());
+}
+
 QString KnownExtensions()
 {
     QStringList extensions;

@@ -30,6 +30,9 @@ constexpr qint64 kHeadSize = 4096;
 /// if neither is known.
 const SFamily* FindFamily(const QString& path, const QByteArray& head);
 
+/// Why a file that `FindFamily` does not know is of none, in words that follow its name.
+QString WhyNoFamily(const QString& path);
+
 /// The extensions of all families, "*.dxf, *.mif".
 QString KnownExtensions();
 

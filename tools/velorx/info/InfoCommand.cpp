@@ -6,8 +6,6 @@
 #include "tools/velorx/Output.h"
 #include "tools/velorx/ProgressBar.h"
 
-#include <CLI/Validators.hpp>
-
 #include <QFile>
 #include <QFileInfo>
 #include <QJsonDocument>
@@ -15,6 +13,14 @@
 namespace velorx {
 
 namespace {
+
+// The parser's own check tells the whole range of the type.
+std::string CheckCount(const std::string& text)
+{
+    bool isNumber = false;
+    const qint64 number = QByteArray::fromStdString(text).toLongLong(&isNumber);
+    return isNumber && number >= 0 ? std::string() : text + " is no whole number from 0";
+}
 
 QString ReadSummary(ISummary& summary, const QString& path)
 {
@@ -50,7 +56,7 @@ CLI::App* CInfoCommand::AddTo(CLI::App& app)
     command->add_flag("--json", json, "Print JSON for programs");
     command->add_option("--rows", rows, "Show the attributes of the first N objects of a MIF table")
         ->type_name("N")
-        ->check(CLI::NonNegativeNumber.description(""));
+        ->check(CheckCount, "", "");
     command->add_option("--library", library, "Panorama's own library, for RSC classifiers")
         ->type_name("PATH");
     return command;
@@ -60,7 +66,7 @@ EExit CInfoCommand::Run()
 {
     const QString path = PathFromBytes(file);
     if (QFileInfo(path).isDir()) {
-        PrintError(file + " is a folder, not a file");
+        PrintError("cannot read " + file + ": it is a folder, not a file");
         return kExitFailed;
     }
     QFile probe(path);
@@ -71,8 +77,7 @@ EExit CInfoCommand::Run()
     const SFamily* family = FindFamily(path, probe.read(kHeadSize));
     probe.close();
     if (family == nullptr) {
-        PrintError(file + " is of no kind that velorx reads (" + KnownExtensions().toStdString()
-                   + ")");
+        PrintError("cannot read " + file + ": " + WhyNoFamily(path).toStdString());
         return kExitFailed;
     }
     const std::unique_ptr<ISummary> summary = family->makeSummary({rows, PathFromBytes(library)});

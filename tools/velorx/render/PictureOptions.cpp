@@ -37,7 +37,7 @@ std::string ParseSize(const std::string& text, int& width, int& height)
     const qint64 wide = size.left(cross).toLongLong(&isWidth);
     const qint64 high = size.mid(cross + 1).toLongLong(&isHeight);
     if (cross < 0 || !isWidth || !isHeight || wide < 1 || high < 1) {
-        return text + " is not a size like 1600x1200";
+        return text + " is not a size in pixels like 1600x1200 (A4 is 794x1123)";
     }
     if (wide > kGreatestSide || high > kGreatestSide || wide * high > kMostPixels) {
         return text + " is too large: a side has up to " + std::to_string(kGreatestSide)

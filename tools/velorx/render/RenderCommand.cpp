@@ -6,7 +6,6 @@
 #include "tools/velorx/convert/TargetFile.h"
 #include "tools/velorx/convert/Temporaries.h"
 #include "tools/velorx/HostCodec.h"
-#include "tools/velorx/info/Family.h"
 #include "tools/velorx/Output.h"
 #include "tools/velorx/ProgressBar.h"
 #include "tools/velorx/render/PictureOptions.h"
@@ -55,7 +54,7 @@ std::string Draw(SPictureJob job, CConversionReport& report)
 CLI::App* CRenderCommand::AddTo(CLI::App& app)
 {
     CLI::App* command = app.add_subcommand("render", "Draw a file as a picture");
-    command->add_option("IN", source, "The file to read: " + KnownExtensions().toStdString())
+    command->add_option("IN", source, "The file to read: " + ConvertibleExtensions())
         ->required()
         ->type_name("");
     command
@@ -64,14 +63,20 @@ CLI::App* CRenderCommand::AddTo(CLI::App& app)
         ->required()
         ->type_name("")
         ->check(CheckTarget, "", "");
-    command->add_option("--layers", layers, "Draw these layers only, even if they are off")
+    command
+        ->add_option("--layers", layers,
+                     "Draw these layers only, even if they are off; velorx info lists them")
         ->type_name("A,B")
         ->delimiter(',')
         ->allow_extra_args(false);
-    command->add_option("--size", size, "Pixels, 96 of them an inch; 1600 wide if not given")
+    command
+        ->add_option("--size", size,
+                     "Pixels, 96 of them an inch, so that 794x1123 is A4; 1600 wide if not given")
         ->type_name("WxH")
         ->check(CheckSize, "", "");
-    command->add_option("--background", background, "#RRGGBB or a name")
+    command
+        ->add_option("--background", background,
+                     "#RRGGBB, or a name such as black, grey or transparent")
         ->type_name("COLOUR")
         ->check(CheckColour, "", "")
         ->capture_default_str();
