@@ -16,7 +16,7 @@ namespace VelorExchange::dxf {
 /// Every operation has a default that does nothing, so that a host overrides what it wants: in
 /// practice the entities it knows, `OnLayer`, and `OnBlock` with `OnInsert`. Records live for the call
 /// only. All calls come on the thread of the read. Of the results only that of `OnSection` counts; an
-/// exception that an operation throws passes through the read.
+/// exception that an operation throws passes through the read, which is how to stop it early.
 class VELOREXCHANGE_EXPORT IDXFReader
 {
 public:

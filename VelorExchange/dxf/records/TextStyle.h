@@ -15,7 +15,7 @@ struct CTextStyleDXF
     bool bold = false; ///< Not filled by the reader.
     bool italic = false; ///< Not filled by the reader.
     double widthFactor = 1.0; ///< Width of a letter by its height, relative to the font.
-    double obliqueAngle = 0.0; ///< Slant of the letters, radians.
+    double obliqueAngle = 0.0; ///< Slant of the letters: radians read, degrees written.
     double height = 0.0; ///< Fixed height in drawing units, 0 for none.
 };
 

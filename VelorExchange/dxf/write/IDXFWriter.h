@@ -36,10 +36,11 @@ namespace dxf {
 /// goes to temporary files at once; memory grows with the number of distinct names alone. A writer
 /// belongs to one thread at a time.
 ///
-/// Angles of records are radians. Plan positions pass through the context; heights (z) never do. Line
-/// weights are millimetres. Colours are 0x00BBGGRR, 0xFFFFFFFF means by block and 256 by layer. Names
-/// are made safe: blanks around them go, characters that drawing programs refuse become "_". Text is
-/// written in Windows-1251; a letter that it lacks becomes "?", in names "_".
+/// Angles of records are radians, but the slant of text styles is degrees. Plan positions pass through
+/// the context; heights (z) never do. Line weights are millimetres. Colours are 0x00BBGGRR, 0xFFFFFFFF
+/// means by block and 256 by layer. Names are made safe: blanks around them go, characters that drawing
+/// programs refuse become "_". Text is written in Windows-1251; a letter that it lacks becomes "?", in
+/// names "_".
 ///
 /// An operation that adds an element returns true if something was written. One whose record holds a
 /// number that is not finite where it would be written returns false and changes nothing. A file
