@@ -77,6 +77,8 @@ try {
     const bool isRead = argc == 3 && dxf::Read(QString::fromLocal8Bit(argv[1]), &tables);
     if (isRead) {
         writer->Rewrite(QString::fromLocal8Bit(argv[2]), nullptr);
+    } else {
+        std::fputs("usage: DrawingToTables DRAWING FOLDER, of a drawing that can be read\n", stderr);
     }
     mif::DeleteMIFWriter(writer);
     QString report;
