@@ -87,6 +87,11 @@ TEST(CheckSxfText, FindsAttributesThatAreNone)
               Strings({"bad-attribute-line line 7: 9", "bad-attribute-line line 8: x y"}));
 }
 
+TEST(CheckSxfText, AcceptsAttributesWithoutALetter)
+{
+    EXPECT_EQ(FoundInObject(".OBJ 1 LIN\n1\n0 0\n.SEM 1\n9 \n"), Strings());
+}
+
 TEST(CheckSxfText, FindsLinesOfADrawingThatAreNone)
 {
     EXPECT_EQ(FoundInObject(".OBJ 0 LIN\n1\n0 0\n.IMG 1\n_LINE 2\nCOLOR 5 6\nTHICK 7\n"),

@@ -266,7 +266,8 @@ void CSxfObjectCheck::TakeAttributes()
         CheckMarks();
         bool hasCode = false;
         Bytes(tokens[0]).toInt(&hasCode);
-        if (!hasCode || tokens.size() < 2) {
+        const bool hasValue = lines.Text().find(' ') != std::string_view::npos; // may be empty
+        if (!hasCode || !hasValue) {
             Add(kBadAttributeLine);
         }
     }
