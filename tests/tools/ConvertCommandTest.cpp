@@ -206,9 +206,9 @@ TEST(ConvertCommand, ADryRunFailsWhereATrueOneWould)
     ExpectFailure(RunVelorx({"convert", kPlan, target, "--dry-run"}),
                   "cannot write " + target + ": it exists (--force replaces it)");
     ExpectFailure(RunVelorx({"convert", kPlan, "/no/such/folder/a.dxf", "--dry-run"}),
-                  "cannot write /no/such/folder/a.dxf: No such file or directory");
+                  "cannot write /no/such/folder/a.dxf: there is no folder /no/such/folder");
     ExpectFailure(RunVelorx({"convert", "data", "/no/such/folder/out", "--to", "dxf", "--dry-run"}),
-                  "cannot write /no/such/folder/out: No such file or directory");
+                  "cannot write /no/such/folder/out: there is no folder /no/such/folder");
 }
 
 TEST(ConvertCommand, OptionForceReplacesAndNothingElseDoes)
@@ -264,7 +264,7 @@ TEST(ConvertCommand, SaysWhyASourceIsNone)
 TEST(ConvertCommand, SaysWhyATargetCannotBeWritten)
 {
     ExpectFailure(RunVelorx({"convert", kPlan, "/no/such/folder/a.dxf"}),
-                  "cannot write /no/such/folder/a.dxf: No such file or directory");
+                  "cannot write /no/such/folder/a.dxf: there is no folder /no/such/folder");
     ExpectFailure(RunVelorx({"convert", kPlan, "/dev/full", "--to", "dxf", "--force"}),
                   "cannot write /dev/full: it is no ordinary file");
 }
@@ -272,7 +272,7 @@ TEST(ConvertCommand, SaysWhyATargetCannotBeWritten)
 TEST(ConvertCommand, SaysWhyAFolderCannotBeMade)
 {
     ExpectFailure(RunVelorx({"convert", "data", "/no/such/folder/out", "--to", "dxf"}),
-                  "cannot write /no/such/folder/out: No such file or directory");
+                  "cannot write /no/such/folder/out: there is no folder /no/such/folder");
     const CTemporaryFolder folder;
     const std::string file = folder.Write("out", "");
     ExpectFailure(RunVelorx({"convert", "data", file, "--to", "dxf"}),

@@ -111,7 +111,7 @@ TEST(TargetFile, SaysWhyItCannotBegin)
 {
     CTemporaries temporaries;
     EXPECT_EQ(MakeTarget(ETargetKind::File, "/no/such/folder/a.dxf", temporaries)->Begin(false),
-              "No such file or directory");
+              "there is no folder /no/such/folder");
 }
 
 TEST(TargetPair, BothFilesTakeTheirPlace)

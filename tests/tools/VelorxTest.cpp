@@ -66,6 +66,8 @@ TEST(Velorx, UnknownCodePageIsWrongUsage)
     ExpectWrongUsage({"--codepage", "windows-9999", "info", kPlan});
     ExpectWrongUsage({"info", "--codepage", "UTF-16", kPlan});
     ExpectWrongUsage({"info", kPlan, "--codepage"});
+    EXPECT_TRUE(Contains(RunVelorx({"info", "--codepage", "1251", kPlan}).err,
+                         "unknown code page 1251; known are windows-1251, IBM866"));
 }
 
 TEST(Velorx, TakesTheCodePageOnEitherSideOfTheCommand)

@@ -24,7 +24,9 @@ constexpr char kFooter[] =
 
 std::string CheckCodePage(const std::string& name)
 {
-    return velorx::IsCodePage(name) ? std::string() : "unknown code page " + name;
+    return velorx::IsCodePage(name) ? std::string()
+                                    : "unknown code page " + name
+            + "; known are windows-1251, IBM866, KOI8-R, UTF-8 and many others";
 }
 
 // "info, convert, check or render".

@@ -32,7 +32,7 @@ std::string CTargetFolder::Begin(bool isTrial)
         return FindFaultOfPlace(path);
     }
     isMade = mkdir(path.c_str(), 0777) == 0;
-    return isMade ? std::string() : std::generic_category().message(errno);
+    return isMade ? std::string() : FaultOfMaking(path, errno);
 }
 
 } // namespace velorx

@@ -65,10 +65,19 @@ std::string FolderOf(const std::string& path)
     return folder.empty() ? "." : folder.string();
 }
 
+std::string FaultOfMaking(const std::string& path, int error)
+{
+    std::error_code ignored;
+    const std::string folder = FolderOf(path);
+    return error == ENOENT && !std::filesystem::exists(folder, ignored)
+        ? "there is no folder " + folder
+        : std::generic_category().message(error);
+}
+
 std::string FindFaultOfFolder(const std::string& folder)
 {
     const bool isOpen = access(folder.c_str(), W_OK | X_OK) == 0;
-    return isOpen ? std::string() : std::generic_category().message(errno);
+    return isOpen ? std::string() : FaultOfMaking(folder + "/file", errno);
 }
 
 std::string FindFaultOfPlace(const std::string& path)

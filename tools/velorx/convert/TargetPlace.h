@@ -24,6 +24,9 @@ std::string FindPlace(const std::string& name, bool mayReplace, STargetPlace& pl
 /// The folder that the file or folder `path` is in.
 std::string FolderOf(const std::string& path);
 
+/// What the system's `error` means for what was to be made at `path`; a missing folder is named.
+std::string FaultOfMaking(const std::string& path, int error);
+
 /// Why nothing can be put into a folder; empty if something can.
 std::string FindFaultOfFolder(const std::string& folder);
 

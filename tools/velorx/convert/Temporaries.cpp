@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "tools/velorx/convert/Temporaries.h"
 
+#include "tools/velorx/convert/TargetPlace.h"
+
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -68,7 +70,7 @@ std::string CTemporaries::MakeBeside(const std::string& target, std::string& pat
             return {};
         }
         if (errno != EEXIST) {
-            return std::generic_category().message(errno);
+            return FaultOfMaking(target, errno);
         }
     }
 }
