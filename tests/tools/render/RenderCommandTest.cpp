@@ -59,6 +59,18 @@ TEST_F(RenderCommand, UnknownColourIsWrongUsage)
                      "unknown colour mauvish");
 }
 
+TEST_F(RenderCommand, QuietPrintsNothingButErrors)
+{
+    const SRun good = RunVelorx({"render", "--quiet", kPlan, Path("plan.png")});
+    EXPECT_EQ(good.exitCode, 0);
+    EXPECT_EQ(good.out + good.err, "");
+    EXPECT_FALSE(Png("plan.png").isNull());
+    const SRun bad = RunVelorx({"render", "--quiet", kPlan, Path("plan.png")});
+    EXPECT_EQ(bad.exitCode, 1);
+    EXPECT_EQ(bad.out, "");
+    EXPECT_NE(bad.err, "");
+}
+
 TEST_F(RenderCommand, MissingSourceIsAFailure)
 {
     const SRun run = RunVelorx({"render", "no-such.dxf", Path("plan.png")});

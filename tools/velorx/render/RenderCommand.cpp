@@ -39,10 +39,10 @@ std::string CheckColour(const std::string& text)
         : "unknown colour " + text + "; known are #RRGGBB and " + KnownColours();
 }
 
-std::string Draw(SPictureJob job, CConversionReport& report)
+std::string Draw(SPictureJob job, bool isShown, CConversionReport& report)
 {
     std::optional<CProgressBar> bar;
-    if (IsTerminal()) {
+    if (isShown && IsTerminal()) {
         bar.emplace(TerminalProgressBar());
         job.progress = &*bar;
     }
@@ -81,6 +81,7 @@ CLI::App* CRenderCommand::AddTo(CLI::App& app)
         ->check(CheckColour, "", "")
         ->capture_default_str();
     command->add_flag("--force", force, "Replace OUT if it exists");
+    command->add_flag("--quiet", quiet, "Print nothing but errors");
     return command;
 }
 
@@ -131,7 +132,7 @@ EExit CRenderCommand::DrawInto(const SFamily& family, CTemporaries& temporaries)
     SPictureJob job = JobFor(family);
     job.target = PathFromBytes(file.WorkPath());
     CConversionReport report;
-    fault = Draw(job, report);
+    fault = Draw(job, !quiet, report);
     if (fault.empty()) {
         fault = file.Finish();
     }
@@ -139,7 +140,7 @@ EExit CRenderCommand::DrawInto(const SFamily& family, CTemporaries& temporaries)
         PrintError("cannot draw " + source + " as " + target + ": " + fault);
         return kExitFailed;
     }
-    return Print(report.ToText().toUtf8()) ? kExitDone : kExitFailed;
+    return quiet || Print(report.ToText().toUtf8()) ? kExitDone : kExitFailed;
 }
 
 } // namespace velorx

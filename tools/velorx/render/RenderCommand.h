@@ -29,6 +29,7 @@ private:
     std::string size; ///< Empty for one that suits the drawing.
     std::string background = "white";
     bool force = false;
+    bool quiet = false;
 };
 
 } // namespace velorx
