@@ -168,6 +168,25 @@ TEST(ConvertCommand, AReportReplacesNothingUnasked)
     EXPECT_EQ(ReadFile(report), "old");
 }
 
+TEST(ConvertCommand, ReportWithoutAFolderIsRefusedAheadOfTheConversion)
+{
+    const CTemporaryFolder folder;
+    const std::string report = folder.path + "/none/report.txt";
+    ExpectFailure(RunVelorx({"convert", kPlan, folder.path + "/a.dxf", "--report", report}),
+                  "cannot write " + report + ": there is no folder " + folder.path + "/none");
+    EXPECT_EQ(NamesIn(folder.path), Strings({}));
+}
+
+TEST(ConvertCommand, ReportMayStandInTheFolderThatTheRunMakes)
+{
+    const CTemporaryFolder folder;
+    const std::string target = folder.path + "/out";
+    const SRun run = RunVelorx(
+        {"convert", kPlan, target, "--to", "mif", "--quiet", "--report", target + "/report.txt"});
+    EXPECT_EQ(run.exitCode, 0) << run.err;
+    EXPECT_NE(ReadFile(target + "/report.txt"), "");
+}
+
 TEST(ConvertCommand, AReportIsNeitherSourceNorTarget)
 {
     const CTemporaryFolder folder;

@@ -77,6 +77,21 @@ bool IsInPlan(const std::string& name, const SConversionPlan& plan)
     });
 }
 
+// What can be known of it ahead of a long run, which may make the folder that it goes into.
+std::string FindFaultOfReport(const std::string& name, const SConversionPlan& plan, bool mayReplace)
+{
+    if (IsInPlan(name, plan)) {
+        return "it is another file of this run";
+    }
+    STargetPlace place;
+    const std::string fault = FindPlace(name, mayReplace, place);
+    const std::string folder = FolderOf(place.path);
+    if (!fault.empty() || IsSamePath(folder, plan.folder) || IsInPlan(folder, plan)) {
+        return fault;
+    }
+    return FindFaultOfFolder(folder);
+}
+
 } // namespace
 
 CLI::App* CConvertCommand::AddTo(CLI::App& app)
@@ -159,12 +174,9 @@ EExit CConvertCommand::Run()
 
 EExit CConvertCommand::RunPlan(const SConversionPlan& plan, CTemporaries& temporaries)
 {
-    STargetPlace place;
-    std::string fault;
-    if (!reportName.empty()) {
-        fault = IsInPlan(reportName, plan) ? "it is another file of this run"
-                                           : FindPlace(reportName, settings.mayReplace, place);
-    }
+    std::string fault = reportName.empty()
+        ? std::string()
+        : FindFaultOfReport(reportName, plan, settings.mayReplace);
     if (!fault.empty()) {
         PrintError("cannot write " + reportName + ": " + fault);
         return kExitFailed;
