@@ -9,6 +9,8 @@
 
 #include <gtest/gtest.h>
 
+#include <QTemporaryFile>
+
 #include <cmath>
 
 namespace velorx::test {
@@ -358,6 +360,64 @@ TEST(DxfFeatureBlocks, DimensionIsDrawnByItsBlock)
     EXPECT_EQ(stream.Met("DIMENSION"), "2+0");
     EXPECT_EQ(stream.Lost("dimensions and tables, written as what is drawn of them"), "2: Dims 2");
     EXPECT_EQ(stream.Lost("DIMENSION, not read: left out"), "");
+}
+
+TEST(DxfFeatureBlocks, CopiedDimensionDrawsItsBlockWhereItStands)
+{
+    CDxfStream stream;
+    stream.Block("*D1", "0 POINT, 8 A, 10 1, 20 0");
+    const auto& read =
+        stream
+            .Entities("0 DIMENSION, 8 A, 2 *D1, 12 100, 22 50, 32 0, 0 ARC_DIMENSION, 8 A, 2 *D1, "
+                      "0 LARGE_RADIAL_DIMENSION, 8 A, 2 *D1")
+            .Read();
+    ASSERT_EQ(read.points.size(), 3U) << stream.Losses();
+    EXPECT_EQ(PointsOf({read.points[0].position}), "(101 50)");
+    EXPECT_EQ(stream.Lost("dimensions and tables, written as what is drawn of them"), "3: A 3");
+}
+
+TEST(DxfFeatureBlocks, PointsThatDimensionsHangOnAreLeftOut)
+{
+    CDxfStream stream;
+    stream.Block("*D1", "0 POINT, 8 Defpoints, 0 POINT, 8 A, 10 1, 20 0");
+    const auto& read =
+        stream.Entities("0 DIMENSION, 8 A, 2 *D1, 0 POINT, 8 Defpoints, 10 2, 20 0").Read();
+    ASSERT_EQ(read.points.size(), 2U);
+    EXPECT_EQ(read.points[0].position.x + read.points[1].position.x, 3);
+    EXPECT_EQ(stream.Lost("POINT, that a dimension hangs on: left out"), "1: Defpoints 1");
+}
+
+TEST(DxfFeatureBlocks, DimensionOfABlockWithoutANameIsNotDrawn)
+{
+    CDxfStream stream;
+    stream.Block("*D1", "0 POINT, 8 A").Block("", "0 DIMENSION, 8 A, 2 *D1");
+    EXPECT_EQ(stream.Read().points.size(), 0U);
+}
+
+TEST(DxfFeatureBlocks, DimensionsThatBlowUpEnd)
+{
+    CDxfTally counts;
+    CDxfSurvey survey(counts);
+    QTemporaryFile file;
+    ASSERT_TRUE(file.open());
+    file.write("0\nSECTION\n2\nENTITIES\n");
+    for (int i = 0; i < 100; ++i) {
+        file.write("0\nDIMENSION\n2\n*D1\n");
+    }
+    ASSERT_TRUE(file.flush() && survey.Read(file.fileName()));
+    CFeatureRecorder recorder;
+    CFeatureTally tally;
+    CDxfFeatureReader reader(recorder, tally, survey, counts, SReadingOptions());
+    reader.LimitDrawn(99);
+    CBlockDXF block;
+    block.name = "*D1";
+    block.entities = {CPointDXF()};
+    reader.OnBlock(block);
+    reader.Finish();
+    EXPECT_EQ(recorder.points.size(), 0U);
+    CConversionReport report;
+    tally.FillReport(report);
+    EXPECT_TRUE(report.ToText().contains("100  elements of blocks beyond the first five million"));
 }
 
 TEST(DxfFeatureBlocks, DimensionWithoutABlockIsListed)

@@ -151,7 +151,12 @@ void CDxfFeatureReader::GivePoint(const CInsertDXF& record)
 void CDxfFeatureReader::DrawPictures(const QString& within)
 {
     constexpr int kByLayer = 256;
-    for (const SDxfPicture& picture : survey.Pictures().In(within)) {
+    const std::vector<SDxfPicture>& pictures = survey.Pictures().In(within);
+    if (!HasRoomFor(pictures.size())) {
+        return;
+    }
+    const bool wasInPicture = std::exchange(place.isInPicture, true);
+    for (const SDxfPicture& picture : pictures) {
         const CLayerDXF layer = styles.Layer(picture.layer);
         CInsertDXF insert;
         insert.name = picture.block;
@@ -173,6 +178,7 @@ void CDxfFeatureReader::DrawPictures(const QString& within)
             Lost(picture.kind, LayerOf(insert.layer), losses::kNotRead);
         }
     }
+    place.isInPicture = wasInPicture;
 }
 
 void CDxfFeatureReader::Draw(const SDxfBlock& block, const CInsertDXF& insert)
@@ -189,7 +195,8 @@ void CDxfFeatureReader::Draw(const SDxfBlock& block, const CInsertDXF& insert)
     open.push_back(&block);
     AdaptChords();
     for (const SDxfBlockPart& part : block.parts) {
-        if (!HasRoomFor(part)) {
+        const std::size_t others = part.other != nullptr ? 1 : 0;
+        if (!HasRoomFor(part.run.entities.size() + others)) {
             break;
         }
         ParseBlock(part.run, origin, this);
@@ -217,10 +224,9 @@ void CDxfFeatureReader::DrawOther(const CEntityVariantDXF& entity, const CInsert
 }
 
 // Blocks in blocks in blocks make much out of little.
-bool CDxfFeatureReader::HasRoomFor(const SDxfBlockPart& part)
+bool CDxfFeatureReader::HasRoomFor(std::size_t elements)
 {
-    const auto size =
-        static_cast<qint64>(part.run.entities.size()) + (part.other != nullptr ? 1 : 0);
+    const auto size = static_cast<qint64>(elements);
     if (drawn + size > mostDrawn) {
         tally.Lose(QLatin1String(losses::kTooMany), place.layer, size);
         return false;

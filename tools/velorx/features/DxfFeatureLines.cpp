@@ -50,9 +50,14 @@ double SweepOf(double start, double end)
 
 } // namespace
 
+// Those that a dimension hangs on are for who changes it.
 bool CDxfFeatureReader::OnPoint(const CPointDXF& record)
 {
     Meet(kPoint);
+    const bool isHelp = record.layer.compare(QLatin1String("DEFPOINTS"), Qt::CaseInsensitive) == 0;
+    if (place.isInPicture && isHelp) {
+        return Lost(EntityName(kPoint), LayerOf(record.layer), losses::kHelp);
+    }
     SPointFeature point;
     FillHead(point, EntityName(kPoint), record.layer);
     point.position = record.point;

@@ -9,6 +9,7 @@ constexpr char kNoNumber[] = ", with a number that is none: left out";
 constexpr char kEndless[] = ", a line without an end: left out";
 constexpr char kNoSize[] = ", without a size in pixels: left out";
 constexpr char kWordless[] = ", without a letter: left out";
+constexpr char kHelp[] = ", that a dimension hangs on: left out";
 constexpr char kNotRead[] = ", not read: left out";
 constexpr char kWithinItself[] = ", of a block within itself: left out";
 constexpr char kTooDeep[] = ", of a block within a hundred others: left out";

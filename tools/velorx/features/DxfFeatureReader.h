@@ -70,6 +70,7 @@ private:
         QString layer; ///< Where what is drawn on layer 0 goes, within a block.
         int code = 0;
         CFeatureAttributes attributes;
+        bool isInPicture = false; ///< Of a dimension or a table.
         int outlines = 0; ///< How many outlines of the element stand behind it.
     };
 
@@ -121,7 +122,7 @@ private:
     void Draw(const SDxfBlock& block, const VelorExchange::dxf::CInsertDXF& insert);
     void DrawOther(const VelorExchange::dxf::CEntityVariantDXF& entity,
                    const VelorExchange::dxf::CInsertDXF& insert);
-    bool HasRoomFor(const SDxfBlockPart& part);
+    bool HasRoomFor(std::size_t elements);
     void AdaptChords();
     CFeatureAttributes Joined(const std::vector<VelorExchange::dxf::CAttribDXF>& own) const;
 

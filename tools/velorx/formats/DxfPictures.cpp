@@ -15,12 +15,14 @@ constexpr int kColour = 62;
 struct SKind
 {
     const char* name;
-    int pointCode; ///< Of the place of the block, 0 where that is the origin.
+    int pointCode; ///< Of the place of the block.
     int directionCode; ///< Of the direction of its x axis, 0 for none.
 };
 
 constexpr SKind kKinds[] = {
-    {"DIMENSION", 0, 0},
+    {"DIMENSION", 12, 0},
+    {"ARC_DIMENSION", 12, 0},
+    {"LARGE_RADIAL_DIMENSION", 12, 0},
     {"ACAD_TABLE", 10, 11},
 };
 
@@ -34,8 +36,9 @@ VelorExchange::CPoint3D PointOf(const CDxfGroups& groups, int code)
 
 void CDxfPictures::Take(const SDxfSurveyEntity& entity, const CDecode& decode)
 {
+    const QString within = entity.isInBlock ? entity.block : QString();
     for (const SKind& kind : kKinds) {
-        if (entity.kind != kind.name) {
+        if (entity.kind != kind.name || (entity.isInBlock && within.isEmpty())) {
             continue;
         }
         SDxfPicture picture;
@@ -43,20 +46,20 @@ void CDxfPictures::Take(const SDxfSurveyEntity& entity, const CDecode& decode)
         picture.block = decode(entity.groups.Text(kBlockName));
         picture.layer = entity.layer;
         picture.colour = entity.groups.Integer(kColour, picture.colour);
-        if (kind.pointCode != 0) {
-            picture.point = PointOf(entity.groups, kind.pointCode);
-        }
+        picture.point = PointOf(entity.groups, kind.pointCode);
         if (kind.directionCode != 0 && entity.groups.Has(kind.directionCode)) {
             const VelorExchange::CPoint3D along = PointOf(entity.groups, kind.directionCode);
             picture.rotation = std::atan2(along.y, along.x) / kDegree;
         }
-        pictures[(entity.isInBlock ? entity.block : QString()).toCaseFolded()].push_back(picture);
+        pictures[within.toCaseFolded()].push_back(picture);
     }
 }
 
-std::vector<SDxfPicture> CDxfPictures::In(const QString& block) const
+const std::vector<SDxfPicture>& CDxfPictures::In(const QString& block) const
 {
-    return pictures.value(block.toCaseFolded());
+    static const std::vector<SDxfPicture> none;
+    const auto found = pictures.constFind(block.toCaseFolded());
+    return found != pictures.constEnd() ? *found : none;
 }
 
 std::vector<const char*> CDxfPictures::Kinds()

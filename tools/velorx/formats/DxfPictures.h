@@ -32,11 +32,13 @@ class CDxfPictures
 public:
     using CDecode = std::function<QString(const std::string&)>;
 
-    /// An entity that the reader does not know; others than such pictures are passed over.
+    /// An entity that the reader does not know; others than such pictures are passed over, and so is what stands
+    /// in a block without a name, which nothing draws.
     void Take(const SDxfSurveyEntity& entity, const CDecode& decode);
 
-    /// Those in the block `block`, in any case; those in none for an empty name.
-    std::vector<SDxfPicture> In(const QString& block) const;
+    /// Those in the block `block`, in any case; those in none for an empty name. Good for as long as no further
+    /// entity is taken.
+    const std::vector<SDxfPicture>& In(const QString& block) const;
 
     /// The kinds of entities that blocks draw.
     static std::vector<const char*> Kinds();
