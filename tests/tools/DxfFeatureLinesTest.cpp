@@ -379,6 +379,34 @@ TEST(DxfFeatureLines, BulgesOfAPlaneSeenFromBehindTurnOver)
     EXPECT_NEAR(bottom, -5, 0.001);
 }
 
+TEST(DxfFeatureLines, LeaderIsALineWithAnArrowHead)
+{
+    CDxfStream stream;
+    stream.Table("0 DIMSTYLE, 2 Plan, 41 3");
+    const auto& read =
+        stream.Entities("0 LEADER, 8 A, 3 Plan, 62 1, 71 1, 76 2, 10 5, 20 6, 10 5, 20 16").Read();
+    ASSERT_EQ(read.lines.size(), 1U) << stream.Losses();
+    EXPECT_EQ(PointsOf(read.lines[0].points), "(5 6) (5 16)");
+    EXPECT_EQ(read.lines[0].stroke.color, 0xFFU);
+    ASSERT_EQ(read.areas.size(), 1U);
+    EXPECT_EQ(PointsOf(read.areas[0].rings.at(0)), "(5 6) (4.5 9) (5.5 9)");
+    EXPECT_EQ(stream.Lost("leaders, drawn as lines or curves with an arrow head"), "1: A 1");
+    EXPECT_EQ(stream.Lost("LEADER, not read: left out"), "");
+    EXPECT_EQ(stream.Met("LWPOLYLINE"), "1+0");
+}
+
+TEST(DxfFeatureLines, MeshThatTellsItsFacesGoesThroughItsVerticesAlone)
+{
+    CDxfStream stream;
+    const auto& read = stream
+                           .Entities("0 POLYLINE, 8 A, 70 64, 0 VERTEX, 70 192, 10 5, 20 6, 30 1, "
+                                     "0 VERTEX, 70 192, 10 7, 20 6, 30 2, "
+                                     "0 VERTEX, 70 128, 10 0, 20 0, 71 1, 72 2, 0 SEQEND")
+                           .Read();
+    ASSERT_EQ(read.lines.size(), 1U) << stream.Losses();
+    EXPECT_EQ(PointsOf(read.lines[0].points), "(5 6 1) (7 6 2)");
+}
+
 TEST(DxfFeatureLines, MultilineBecomesItsLines)
 {
     CDxfStream stream;

@@ -117,6 +117,43 @@ TEST(DxfFeatureTexts, LongTextWithAnObjectInItKeepsItsPlace)
     EXPECT_EQ(read.points.size(), 1U);
 }
 
+TEST(DxfFeatureTexts, AngleOfALongTextTurnsItWhereItHasNoDirection)
+{
+    CDxfStream stream;
+    const auto& read = stream
+                           .Entities("0 MTEXT, 8 A, 40 2, 1 x, 50 90, "
+                                     "0 MTEXT, 8 A, 40 2, 1 x, 50 90, 11 -1, 21 0")
+                           .Read();
+    EXPECT_NEAR(read.texts.at(0).rotation, M_PI / 2, 1e-12);
+    EXPECT_NEAR(read.texts.at(1).rotation, M_PI, 1e-12);
+    EXPECT_EQ(stream.Losses(), "");
+}
+
+TEST(DxfFeatureTexts, TurnedTextThatStandsAtItsTopHangsFromIt)
+{
+    CDxfStream stream;
+    const auto& text =
+        stream.Entities("0 TEXT, 8 A, 10 5, 20 6, 40 2, 50 90, 1 x, 72 1, 11 5, 21 6, 73 3")
+            .Read()
+            .texts.at(0);
+    EXPECT_NEAR(text.position.x, 7, 1e-12);
+    EXPECT_NEAR(text.position.y, 6, 1e-12);
+    EXPECT_EQ(text.align, EFeatureAlign::Centre);
+    EXPECT_EQ(text.vertical, EFeatureVertical::Baseline);
+}
+
+TEST(DxfFeatureTexts, LongTextSeenFromBehindCanBeReadInItsPlace)
+{
+    CDxfStream stream;
+    const auto& read =
+        stream.Entities("0 MTEXT, 8 A, 10 5, 20 6, 40 2, 1 x, 71 1, 11 -1, 21 0, 230 -1").Read();
+    ASSERT_EQ(read.texts.size(), 1U);
+    EXPECT_EQ(read.texts[0].position.x, 5);
+    EXPECT_EQ(read.texts[0].align, EFeatureAlign::Right);
+    EXPECT_EQ(read.texts[0].vertical, EFeatureVertical::Top);
+    EXPECT_NEAR(read.texts[0].rotation, 0, 1e-12);
+}
+
 TEST(DxfFeatureTexts, PlacesOfALongTextAreTheNineOfItsFrame)
 {
     for (int place = 1; place <= 9; ++place) {

@@ -195,12 +195,6 @@ TEST(DxfAreaLosses, TextsAreSetByTheirBaseLine)
               "1 texts set by their top, middle or bottom, set by their base line (A 1)\n");
 }
 
-TEST(DxfAreaLosses, AngleOfAnMTextIsNotRead)
-{
-    EXPECT_EQ(LossesOfEntity("0 MTEXT\n8 A\n1 words\n40 2\n50 90\n"),
-              "1 texts turned by an angle that is not read, level in the result (A 1)\n");
-}
-
 TEST(DxfAreaLosses, TextsUpsideDownAreUpright)
 {
     EXPECT_EQ(LossesOfEntity(Text("1 words\n71 4\n")),

@@ -220,10 +220,40 @@ TEST(DxfLosses, HiddenAttributesAmongThoseThatShowAreShown)
 
 TEST(DxfLosses, ElementsSeenFromBehindAreMirroredInPart)
 {
+    EXPECT_EQ(LossesOfEntity(Text("230 -1\n") + "0 MTEXT\n8 A\n1 x\n40 2\n230 -1\n"),
+              "2 elements drawn on a plane seen from behind, mirrored in part (A 2)\n");
+    const std::string hatch = "0 HATCH\n8 A\n230 -1\n2 SOLID\n91 1\n92 2\n93 3\n10 0\n20 0\n"
+                              "10 5\n20 0\n10 5\n20 5\n97 0\n75 0\n76 1\n";
+    EXPECT_EQ(LossesOfEntity(hatch + "70 1\n"), "");
+    EXPECT_NE(LossesOfEntity(hatch + "70 0\n").find("mirrored in part (A 1)"), std::string::npos);
+}
+
+TEST(DxfLosses, ShapesSeenFromBehindLoseNothing)
+{
+    EXPECT_EQ(LossesOf(WithBlock("", "0 INSERT\n8 A\n2 B\n230 -1\n")), "");
+    EXPECT_EQ(LossesOfEntity("0 CIRCLE\n8 A\n40 1\n62 1\n230 -1\n"),
+              "1 circles, written as whole arcs (A 1)\n");
+    EXPECT_EQ(LossesOfEntity("0 LWPOLYLINE\n8 A\n230 -1\n90 2\n10 0\n20 0\n42 1\n10 5\n20 0\n"),
+              "");
+    EXPECT_EQ(LossesOfEntity("0 POLYLINE\n8 A\n70 8\n210 1\n230 0\n0 VERTEX\n10 4\n30 1\n"
+                             "0 VERTEX\n10 5\n0 SEQEND\n"),
+              "");
+}
+
+TEST(DxfLosses, ObjectsInTextsLeaveAloneTheGroupsOfTheText)
+{
     EXPECT_EQ(
-        LossesOf(WithBlock("", "0 INSERT\n8 A\n2 B\n230 -1\n0 CIRCLE\n8 A\n40 1\n62 1\n230 -1\n")),
-        "1 elements drawn on a plane seen from behind, mirrored in part (A 1)\n"
-        "1 circles, written as whole arcs (A 1)\n");
+        LossesOfEntity("0 MTEXT\n8 A\n1 words\n40 2\n101 Embedded Object\n70 1\n10 1\n46 7\n"),
+        "1 group 101 of MTEXT, not read: left out (A 1)\n");
+}
+
+TEST(DxfLosses, LeadersBecomeLinesWithAnArrowHead)
+{
+    const std::string leader = "0 LEADER\n8 A\n3 STANDARD\n71 1\n76 2\n10 0\n20 0\n10 5\n20 5\n";
+    EXPECT_EQ(LossesOfEntity(leader),
+              "1 solids, written as hatches (A 1)\n"
+              "1 leaders, drawn as lines or curves with an arrow head (A 1)\n");
+    EXPECT_EQ(LossesOfEntity(leader + "67 1\n"), "1 elements of paper space, left out (A 1)\n");
 }
 
 TEST(DxfLosses, ElementsOnTiltedPlanesAreLaidIntoThePlan)

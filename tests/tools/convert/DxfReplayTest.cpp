@@ -300,4 +300,35 @@ TEST(DxfReplay, ReadsIntoTheProgressOfItsHost)
     VelorExchange::dxf::DeleteDXFWriter(writer);
 }
 
+TEST(DxfReplay, ShapesSeenFromBehindTurnOver)
+{
+    EXPECT_EQ(Entity("0 LWPOLYLINE\n8 A\n230 -1\n90 2\n10 0\n20 0\n42 1\n10 5\n20 0\n42 0\n",
+                     "LWPolyline "),
+              "LWPolyline layer=\"A\" vertices=[(0 0 0)^-1 (-5 0 0)]\n");
+}
+
+TEST(DxfReplay, LongTextWithAnObjectInItKeepsItsPlace)
+{
+    EXPECT_EQ(Entity("0 MTEXT\n8 A\n10 5\n20 6\n40 2\n41 9\n71 1\n1 x\n", "MText "),
+              Entity("0 MTEXT\n8 A\n10 5\n20 6\n40 2\n41 9\n71 1\n1 x\n101 Embedded Object\n10 1\n"
+                     "20 0\n40 7\n41 0\n",
+                     "MText "));
+}
+
+TEST(DxfReplay, TraceIsAnAreaLikeASolid)
+{
+    const std::string corners = "8 A\n10 0\n20 0\n11 4\n21 0\n12 0\n22 1\n13 4\n23 1\n";
+    EXPECT_EQ(Entity("0 TRACE\n" + corners, "Hatch "), Entity("0 SOLID\n" + corners, "Hatch "));
+}
+
+TEST(DxfReplay, LeaderIsALineWithAnArrowHead)
+{
+    const auto drawing = WithEntities("0 LEADER\n8 A\n71 1\n76 2\n10 0\n20 0\n10 5\n20 0\n");
+    EXPECT_EQ(ResultOf(drawing, "LWPolyline "),
+              "LWPolyline layer=\"A\" vertices=[(0 0 0) (5 0 0)]\n");
+    EXPECT_EQ(ResultOf(drawing, "Hatch "),
+              "Hatch layer=\"A\" loops=[[{LWPolyline vertices=[(0 0 0) (0.18 0.03 0) "
+              "(0.18 -0.03 0) (0 0 0)]}]]\n");
+}
+
 } // namespace velorx::test

@@ -54,7 +54,10 @@ ODD_SOURCES = {
 }
 
 # What the report says of entities that ezdxf counts and the library does not deliver.
-UNREAD = ("lost in reading", "images without a file", "images of blocks")
+UNREAD = ("lost in reading", "images without a file", "images of blocks", "leaders, drawn as")
+
+# Kinds that are read as another one.
+READ_AS = {"TRACE": "SOLID"}
 
 
 def run(*command):
@@ -68,7 +71,8 @@ def remarks(entries):
 
 
 def counts(entities):
-    return dict(collections.Counter(entity.dxftype() for entity in entities))
+    kinds = (entity.dxftype() for entity in entities)
+    return dict(collections.Counter(READ_AS.get(kind, kind) for kind in kinds))
 
 
 def texts_of(drawing):

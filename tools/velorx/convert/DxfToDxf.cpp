@@ -3,6 +3,7 @@
 #include "tools/velorx/convert/Conversion.h"
 #include "tools/velorx/convert/DxfReplay.h"
 #include "tools/velorx/formats/DxfContent.h"
+#include "tools/velorx/formats/DxfMender.h"
 #include "tools/velorx/formats/DxfSurvey.h"
 #include "tools/velorx/formats/DxfTally.h"
 #include "VelorExchange/foundation/ExportLog.h"
@@ -13,7 +14,8 @@ namespace velorx {
 
 using namespace VelorExchange::dxf;
 
-// Two passes: the first for what the reader leaves out, the second through the library.
+// Two passes: the first for what the reader leaves out, the second through the library, over a copy where it
+// would take something for what it is not.
 QString ConvertDxfToDxf(const SConversionJob& job, CConversionReport& report)
 {
     const QString fault = WhyNoDrawing(job.source);
@@ -25,6 +27,11 @@ QString ConvertDxfToDxf(const SConversionJob& job, CConversionReport& report)
     if (!survey.Read(job.source)) {
         return QStringLiteral("it cannot be opened");
     }
+    QTemporaryFile mended;
+    const bool isMended = survey.Mendings().AreNeeded();
+    if (isMended && !Mend(job.source, mended)) {
+        return QStringLiteral("a temporary copy of it cannot be written");
+    }
     VelorExchange::CExportLog log;
     log.SetOutputFile(job.targetName);
     const std::unique_ptr<IDXFWriter, void (*)(IDXFWriter*)> writer(CreateDXFWriter(nullptr),
@@ -32,7 +39,7 @@ QString ConvertDxfToDxf(const SConversionJob& job, CConversionReport& report)
     writer->Init(job.options.drawingVersion, &log);
     writer->SetPrecision(job.options.precision);
     CDxfReplay replay(*writer, job.options.drawingVersion, survey, tally, job.progress);
-    if (!Read(job.source, &replay)) {
+    if (!Read(isMended ? mended.fileName() : job.source, &replay)) {
         return QStringLiteral("the drawing ends inside a block");
     }
     replay.Finish();

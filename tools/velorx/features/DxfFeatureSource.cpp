@@ -44,14 +44,7 @@ bool IsKept(const QString& what)
                        [&what](EDxfLoss loss) { return what == QLatin1String(LossText(loss)); });
 }
 
-// What is drawn on a plane that is seen from behind is right where it is mended.
-qint64 Mended(const QString& what, const QString& layer, const CDxfSurvey& survey)
-{
-    const bool isMirrored = what == QLatin1String(LossText(EDxfLoss::MirroredPlanes));
-    return isMirrored ? survey.Mendings().Mirrored(layer) : 0;
-}
-
-void HandOnLosses(const CDxfTally& counts, const CDxfSurvey& survey, CFeatureTally& tally)
+void HandOnLosses(const CDxfTally& counts, CFeatureTally& tally)
 {
     CConversionReport report;
     counts.FillReport(report);
@@ -61,11 +54,8 @@ void HandOnLosses(const CDxfTally& counts, const CDxfSurvey& survey, CFeatureTal
         }
         qint64 rest = loss.count;
         for (const auto& [layer, count] : loss.layers) {
-            const qint64 lost = count - Mended(loss.what, layer, survey);
             rest -= count;
-            if (lost > 0) {
-                tally.Lose(loss.what, layer, lost);
-            }
+            tally.Lose(loss.what, layer, count);
         }
         if (rest > 0) {
             tally.Lose(loss.what, QString(), rest);
@@ -121,7 +111,7 @@ QString CDxfFeatureSource::Read(IFeatureSink& sink, CFeatureTally& tally)
     const bool isWhole = VelorExchange::dxf::Read(isMended ? mended.fileName() : path, &reader);
     reader.Finish();
     counts.EndReading();
-    HandOnLosses(counts, survey, tally);
+    HandOnLosses(counts, tally);
     HandOnRest(survey, tally);
     if (!HasEndMark(path)) {
         tally.Remark(QLatin1String(kNoEndMark));

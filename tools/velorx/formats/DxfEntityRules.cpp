@@ -55,13 +55,12 @@ constexpr SRule kRules[] = {
     {"IMAGE", {{{281, 50.0}, {282, 50.0}, {283, 0.0}}}, EDxfLoss::ImageColours},
 };
 
-// Whose shape, and not only whose position, depends on the side that their plane is seen from.
-constexpr std::string_view kPlaneKinds[] = {"INSERT", "LWPOLYLINE", "POLYLINE", "TEXT",
-                                            "MTEXT",  "HATCH",      "ELLIPSE",  "SPLINE",
-                                            "MLINE",  "ATTRIB",     "ATTDEF"};
+// Those that come out right on a plane seen from behind, but not on a tilted one.
+constexpr std::string_view kPlaneKinds[] = {"INSERT",  "LWPOLYLINE", "POLYLINE", "HATCH",
+                                            "ELLIPSE", "ARC",        "CIRCLE",   "SOLID"};
 
-// Those and the ones that come out right on a plane seen from behind, but not on a tilted one.
-constexpr std::string_view kFlatKinds[] = {"ARC", "CIRCLE", "SOLID"};
+// Those that do not, but for their position.
+constexpr std::string_view kWordKinds[] = {"TEXT", "MTEXT", "MLINE", "ATTRIB", "ATTDEF"};
 
 // Read or written without a line type; without a line weight.
 constexpr std::string_view kWithoutLineType[] = {"POINT", "TEXT",  "MTEXT", "SOLID", "3DFACE",
@@ -136,12 +135,12 @@ private:
 
     void JudgePlane()
     {
-        constexpr double kLeast = 1e-6;
-        const bool isTilted =
-            std::fabs(groups.Number(210)) > kLeast || std::fabs(groups.Number(220)) > kLeast;
-        const bool hasPlane = IsAmong(kPlaneKinds, entity.kind);
-        Lose(isTilted && (hasPlane || IsAmong(kFlatKinds, entity.kind)), EDxfLoss::TiltedPlanes);
-        Lose(!isTilted && hasPlane && groups.Number(230, 1.0) < 0, EDxfLoss::MirroredPlanes);
+        const EDxfPlane plane = groups.Plane();
+        const bool isWord = IsAmong(kWordKinds, entity.kind);
+        const bool isFlat = IsAmong(kPlaneKinds, entity.kind) && !IsPolylineInSpace(entity);
+        const bool hasPattern = Is("HATCH") && groups.Integer(70) == 0;
+        Lose(plane == EDxfPlane::Tilted && (isWord || isFlat), EDxfLoss::TiltedPlanes);
+        Lose(plane == EDxfPlane::Behind && (isWord || hasPattern), EDxfLoss::MirroredPlanes);
     }
 
     void JudgeColour()
@@ -186,8 +185,6 @@ private:
             const bool isCut = groups.Varies(74) || groups.Number(74) > 2 || groups.Varies(75)
                 || !groups.IsZero(75);
             Lose(isCut || (groups.Integer(71) & kNoCaps) != 0, EDxfLoss::MLineCuts);
-        } else if (Is("MTEXT")) {
-            Lose(!groups.Has(11) && groups.Number(50) != 0, EDxfLoss::TextRotations);
         } else if (Is("HATCH")) {
             Lose(groups.Integer(75) != 0 && groups.Integer(91) > 1, EDxfLoss::HatchIslands);
         } else if (Is("IMAGE")) {
@@ -229,6 +226,12 @@ bool IsTakenForBlack(int trueColour)
     constexpr int kBlacks[] = {0, 0x000100, 0x010100};
     return std::find(std::begin(kBlacks), std::end(kBlacks), trueColour & 0xFFFFFF)
         != std::end(kBlacks);
+}
+
+bool IsPolylineInSpace(const SDxfSurveyEntity& entity)
+{
+    constexpr int kInSpace = 8 + 16 + 64; // lines in space, meshes, bodies
+    return entity.kind == "POLYLINE" && (entity.groups.Integer(70) & kInSpace) != 0;
 }
 
 bool HasColour(const std::string& kind)

@@ -10,6 +10,9 @@ namespace velorx {
 /// entity alone can say.
 void JudgeEntity(const SDxfSurveyEntity& entity, CDxfTally& tally);
 
+/// Whether the entity is a POLYLINE whose vertices stand in space, and not on a plane of its own.
+bool IsPolylineInSpace(const SDxfSurveyEntity& entity);
+
 /// Whether the colour of the entity reaches the result: multilines and images have none of their own there.
 bool HasColour(const std::string& kind);
 

@@ -78,4 +78,9 @@ int CDxfGroups::Integer(int code, int absent) const
     return std::fabs(number) <= kMost ? static_cast<int>(number) : 0;
 }
 
+EDxfPlane CDxfGroups::Plane() const
+{
+    return PlaneIn([this](int code, double absent) { return Number(code, absent); });
+}
+
 } // namespace velorx

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "tools/velorx/formats/DxfPlane.h"
+
 #include <array>
 #include <string>
 #include <string_view>
@@ -34,6 +36,9 @@ public:
     /// The first number of the code, 0 for one that is none.
     double Number(int code, double absent = 0.0) const;
     int Integer(int code, int absent = 0) const;
+
+    /// The plane of an entity.
+    EDxfPlane Plane() const;
 
     /// Whether the code came with different numbers.
     bool Varies(int code) const { return At(code).varies; }

@@ -1,159 +1,165 @@
 // SPDX-License-Identifier: MIT
 #include "tools/velorx/formats/DxfMender.h"
 
+#include "tools/velorx/formats/DxfLeader.h"
+#include "tools/velorx/formats/DxfLines.h"
+#include "tools/velorx/formats/DxfTextAnchor.h"
+
 #include <QFile>
 
-#include <algorithm>
 #include <cmath>
+#include <iterator>
+#include <utility>
 
 namespace velorx {
 
 namespace {
 
 constexpr double kTwoPi = 6.283185307179586;
+constexpr double kDegree = kTwoPi / 360.0;
 constexpr double kHalfTurn = 180.0;
-constexpr int kDigits = 17;
-
-int NumberOfCode(const QByteArray& line)
-{
-    bool isNumber = false;
-    const int code = line.trimmed().toInt(&isNumber);
-    return isNumber ? code : -1;
-}
-
-bool IsPlaneCode(int code)
-{
-    return code == 210 || code == 220 || code == 230;
-}
+constexpr int kEmbeddedObject = 101;
+constexpr int kFlags = 70;
+constexpr int kBody = 64;
+constexpr int kInSpace = 8 + 16 + kBody; // lines in space, meshes, bodies
 
 } // namespace
 
 const CDxfMender::SKind CDxfMender::kKinds[] = {
-    {"MTEXT", &CDxfMender::DropEmbedded},      {"ATTRIB", &CDxfMender::DropEmbedded},
-    {"ATTDEF", &CDxfMender::DropEmbedded},     {"POINT", &CDxfMender::DropPlane},
-    {"SPLINE", &CDxfMender::DropPlane},        {"ELLIPSE", &CDxfMender::MendEllipse},
-    {"LWPOLYLINE", &CDxfMender::MendPolyline}, {"POLYLINE", &CDxfMender::MendPolyline},
+    {"MTEXT", &CDxfMender::MendText},          {"TEXT", &CDxfMender::MendTextLine},
+    {"ATTRIB", &CDxfMender::MendAttribute},    {"ATTDEF", &CDxfMender::DropEmbedded},
+    {"POINT", &CDxfMender::DropPlane},         {"SPLINE", &CDxfMender::DropPlane},
+    {"3DFACE", &CDxfMender::DropPlane},        {"XLINE", &CDxfMender::DropPlane},
+    {"RAY", &CDxfMender::DropPlane},           {"ELLIPSE", &CDxfMender::MendEllipse},
+    {"LWPOLYLINE", &CDxfMender::MendPolyline}, {"POLYLINE", &CDxfMender::MendOldPolyline},
     {"VERTEX", &CDxfMender::MendVertex},       {"INSERT", &CDxfMender::MendInsert},
-    {"HATCH", &CDxfMender::MendHatch},
+    {"HATCH", &CDxfMender::MendHatch},         {"TRACE", &CDxfMender::MendTrace},
+    {"LEADER", &CDxfMender::MendLeader},       {"DIMSTYLE", &CDxfMender::KeepArrowSize},
 };
 
 bool CDxfMender::Run()
 {
-    while (!in.atEnd()) {
-        SGroup group;
-        group.code = in.readLine();
-        group.value = in.readLine();
-        group.number = NumberOfCode(group.code);
-        if (group.number == 0) {
-            MendObject();
-            if (!WriteObject()) {
-                return false;
-            }
+    CDxfLines lines(in);
+    while (lines.Next()) {
+        SDxfRawGroup group;
+        group.code = QByteArray(lines.Line().data(), static_cast<int>(lines.Line().size()));
+        group.number = NumberOfCode(lines.Line());
+        if (lines.Next()) {
+            group.value = QByteArray(lines.Line().data(), static_cast<int>(lines.Line().size()));
         }
-        object.push_back(std::move(group));
-    }
-    MendObject();
-    return WriteObject();
-}
-
-void CDxfMender::MendObject()
-{
-    if (object.empty() || object.front().number != 0) {
-        return;
-    }
-    const QByteArray name = object.front().value.trimmed().toUpper();
-    isPolylineBehind = isPolylineBehind && name == "VERTEX";
-    for (const SKind& kind : kKinds) {
-        if (name == kind.name) {
-            (this->*kind.mend)();
-            return;
-        }
-    }
-}
-
-bool CDxfMender::WriteObject()
-{
-    for (const SGroup& group : object) {
-        if (out.write(group.code) != group.code.size()
-            || out.write(group.value) != group.value.size()) {
+        if (!Take(std::move(group))) {
             return false;
         }
     }
-    object.clear();
-    return true;
+    return FinishObject();
 }
 
-CDxfMender::SGroup* CDxfMender::Find(int code)
+bool CDxfMender::Take(SDxfRawGroup group)
 {
-    const auto found = std::find_if(object.begin(), object.end(),
-                                    [code](const SGroup& group) { return group.number == code; });
-    return found != object.end() ? &*found : nullptr;
-}
-
-double CDxfMender::Number(const SGroup& group)
-{
-    return group.value.trimmed().toDouble();
-}
-
-// The line end stays.
-void CDxfMender::SetValue(SGroup& group, const QByteArray& text)
-{
-    int end = group.value.size();
-    while (end > 0 && (group.value.at(end - 1) == '\n' || group.value.at(end - 1) == '\r')) {
-        --end;
+    if (group.number == 0) {
+        if (!FinishObject()) {
+            return false;
+        }
+        BeginObject(group);
     }
-    group.value = text + group.value.mid(end);
+    object.Add(std::move(group));
+    return mend != nullptr || FinishObject();
 }
 
-// As text, so that no digit gets lost.
-void CDxfMender::Negate(SGroup& group)
+void CDxfMender::BeginObject(const SDxfRawGroup& kind)
 {
-    const QByteArray text = group.value.trimmed();
-    if (text.startsWith('-')) {
-        SetValue(group, text.mid(1));
-    } else {
-        SetValue(group, '-' + (text.startsWith('+') ? text.mid(1) : text));
+    const QByteArray name = kind.value.trimmed().toUpper();
+    isPolylineBehind = isPolylineBehind && name == "VERTEX";
+    isBody = isBody && name == "VERTEX";
+    mend = nullptr;
+    for (const SKind& known : kKinds) {
+        mend = name == known.name ? known.mend : mend;
     }
 }
 
-bool CDxfMender::IsBehind() const
+bool CDxfMender::FinishObject()
 {
-    const auto component = [this](int code) {
-        const auto found = std::find_if(object.begin(), object.end(), [code](const SGroup& group) {
-            return group.number == code;
-        });
-        return found != object.end() ? Number(*found) : 0.0;
-    };
-    constexpr double kNear = 1e-9;
-    return component(230) < 0 && std::fabs(component(210)) <= kNear
-        && std::fabs(component(220)) <= kNear;
+    if (mend != nullptr && !object.IsEmpty()) {
+        (this->*mend)();
+    }
+    const bool isWritten = object.Write(out);
+    object.Clear();
+    return isWritten;
 }
 
 void CDxfMender::DropEmbedded()
 {
-    constexpr int kEmbeddedObject = 101;
-    const auto first = std::find_if(object.begin(), object.end(), [](const SGroup& group) {
-        return group.number == kEmbeddedObject;
-    });
-    object.erase(first, object.end());
+    object.DropFrom(kEmbeddedObject);
 }
 
 void CDxfMender::DropPlane()
 {
-    const auto isPlane = [](const SGroup& group) { return IsPlaneCode(group.number); };
-    object.erase(std::remove_if(object.begin(), object.end(), isPlane), object.end());
+    object.Drop({210, 220, 230});
+}
+
+// A place to hold on to counts from 1 along the rows of three.
+void CDxfMender::MendText()
+{
+    enum ECode { kX = 11, kY = 21, kRotation = 50, kPlace = 71 };
+    constexpr int kColumns = 3;
+    constexpr int kPlaces = 9;
+    DropEmbedded();
+    double x = object.Number(kX, 1.0);
+    double y = object.Number(kY);
+    if (object.Find(kX) == nullptr && object.Number(kRotation) != 0) {
+        x = std::cos(object.Number(kRotation) * kDegree);
+        y = std::sin(object.Number(kRotation) * kDegree);
+        object.Set(kY, DxfNumber(y));
+        object.Set(kX, DxfNumber(x));
+        object.Drop({kRotation});
+    }
+    if (object.Plane() == EDxfPlane::Behind) {
+        const int told = object.Integer(kPlace);
+        const int place = told >= 1 && told <= kPlaces ? told - 1 : 0;
+        const int column = place % kColumns;
+        object.Set(kY, DxfNumber(-y));
+        object.Set(kX, DxfNumber(-x));
+        object.Set(kPlace, QByteArray::number(place - column + kColumns - column));
+    }
+    DropPlane();
+}
+
+void CDxfMender::MendTextLine()
+{
+    MoveToBaseLine(object.Integer(73));
+}
+
+void CDxfMender::MendAttribute()
+{
+    DropEmbedded();
+    MoveToBaseLine(object.Integer(74));
+}
+
+// The point that a text is set by stands in groups 11 and 21. Most programs put the start of the base line into
+// 10 and 20, some that point once more.
+void CDxfMender::MoveToBaseLine(int vertical)
+{
+    constexpr double kHeights[] = {0.0, -0.3, 0.5, 1.0}; // base line, below it, middle, top
+    const auto number = [this](int code, double absent) { return object.Number(code, absent); };
+    if (vertical < 0 || vertical >= static_cast<int>(std::size(kHeights))
+        || !IsAtAnchor(vertical, number))
+    {
+        return;
+    }
+    const double angle = object.Number(50) * kDegree;
+    const double height = object.Number(40) * kHeights[vertical];
+    object.Set(10, DxfNumber(object.Number(10) + height * std::sin(angle)));
+    object.Set(20, DxfNumber(object.Number(20) - height * std::cos(angle)));
 }
 
 // Seen from above, the arc runs from its end to its start.
 void CDxfMender::MendEllipse()
 {
-    SGroup* start = Find(41);
-    SGroup* end = Find(42);
-    if (IsBehind() && start != nullptr && end != nullptr) {
-        const double from = kTwoPi - Number(*end);
-        const double to = kTwoPi - Number(*start);
-        SetValue(*start, QByteArray::number(from, 'g', kDigits));
-        SetValue(*end, QByteArray::number(to, 'g', kDigits));
+    enum ECode { kStart = 41, kEnd = 42 };
+    if (object.Plane() == EDxfPlane::Behind) {
+        const double start = object.Number(kStart);
+        object.Set(kStart, DxfNumber(kTwoPi - object.Number(kEnd)));
+        object.Set(kEnd, DxfNumber(kTwoPi - start));
     }
     DropPlane();
 }
@@ -161,44 +167,56 @@ void CDxfMender::MendEllipse()
 void CDxfMender::MendPolyline()
 {
     constexpr int kBulge = 42;
-    if (!IsBehind()) {
+    if (object.Plane() != EDxfPlane::Behind) {
         return;
     }
-    for (SGroup& group : object) {
+    for (SDxfRawGroup& group : object.Groups()) {
         if (group.number == kBulge) {
-            Negate(group);
+            CDxfRawObject::Negate(group);
         }
     }
-    isPolylineBehind = object.front().value.trimmed().toUpper() == "POLYLINE";
 }
 
+void CDxfMender::MendOldPolyline()
+{
+    const int flags = object.Integer(kFlags);
+    isBody = (flags & kBody) != 0;
+    if ((flags & kInSpace) != 0) {
+        DropPlane();
+    } else {
+        isPolylineBehind = object.Plane() == EDxfPlane::Behind;
+    }
+}
+
+// A face of a body has numbers of vertices and no place.
 void CDxfMender::MendVertex()
 {
-    SGroup* bulge = Find(42);
+    constexpr int kPlace = 64;
+    constexpr int kFace = 128;
+    if (isBody && (object.Integer(kFlags) & (kPlace | kFace)) == kFace) {
+        object.Clear();
+        return;
+    }
+    SDxfRawGroup* bulge = object.Find(42);
     if (isPolylineBehind && bulge != nullptr) {
-        Negate(*bulge);
+        CDxfRawObject::Negate(*bulge);
     }
 }
 
 // What is turned and then mirrored is mirrored and then turned the other way.
 void CDxfMender::MendInsert()
 {
-    if (!IsBehind()) {
+    enum ECode { kScale = 41, kRotation = 50 };
+    if (object.Plane() != EDxfPlane::Behind) {
         return;
     }
-    if (SGroup* rotation = Find(50)) {
-        Negate(*rotation);
+    if (SDxfRawGroup* rotation = object.Find(kRotation)) {
+        CDxfRawObject::Negate(*rotation);
     }
-    if (SGroup* scale = Find(41)) {
-        Negate(*scale);
+    if (SDxfRawGroup* scale = object.Find(kScale)) {
+        CDxfRawObject::Negate(*scale);
     } else {
-        SGroup mirrored = object.back();
-        mirrored.code = "41"
-            + mirrored.code.mid(mirrored.code.trimmed().size()
-                                + mirrored.code.indexOf(mirrored.code.trimmed()));
-        mirrored.number = 41;
-        SetValue(mirrored, "-1");
-        object.push_back(mirrored);
+        object.Set(kScale, "-1");
     }
 }
 
@@ -209,27 +227,47 @@ void CDxfMender::MendHatch()
     enum ECode { kPath = 92, kEdge = 72, kBulge = 42, kStart = 50, kEnd = 51, kSense = 73 };
     enum EEdge { kPolyline = -1, kOther = 0, kArc = 2, kEllipse = 3 };
     constexpr int kStyle = 75;
-    if (!IsBehind()) {
+    if (object.Plane() != EDxfPlane::Behind) {
         return;
     }
     int edge = kOther;
-    for (SGroup& group : object) {
+    for (SDxfRawGroup& group : object.Groups()) {
         if (group.number == kStyle) {
             return; // behind the boundaries
         }
-        const auto value = static_cast<int>(Number(group));
+        const int value = CDxfRawObject::IntegerOf(group);
         if (group.number == kPath) {
             edge = (value & 2) != 0 ? kPolyline : kOther;
         } else if (group.number == kEdge && edge != kPolyline) {
             edge = value;
         } else if (group.number == kBulge && edge == kPolyline) {
-            Negate(group);
+            CDxfRawObject::Negate(group);
         } else if ((group.number == kStart || group.number == kEnd) && edge == kArc) {
-            SetValue(group, QByteArray::number(Number(group) + kHalfTurn, 'g', kDigits));
+            CDxfRawObject::SetValue(group, DxfNumber(CDxfRawObject::NumberOf(group) + kHalfTurn));
         } else if (group.number == kSense && (edge == kArc || edge == kEllipse)) {
-            SetValue(group, value != 0 ? "0" : "1");
+            CDxfRawObject::SetValue(group, value != 0 ? "0" : "1");
         }
     }
+}
+
+void CDxfMender::MendTrace()
+{
+    object.SetKind("SOLID");
+}
+
+void CDxfMender::KeepArrowSize()
+{
+    const SDxfRawGroup* name = object.Find(2);
+    if (name != nullptr) {
+        arrowSizes.insert(name->value.trimmed().toUpper(), ArrowSizeIn(object));
+    }
+}
+
+void CDxfMender::MendLeader()
+{
+    const SDxfRawGroup* style = object.Find(3);
+    const QByteArray name = style != nullptr ? style->value.trimmed().toUpper() : QByteArray();
+    DrawLeader(object, arrowSizes.value(name, kUsualArrowSize));
 }
 
 bool Mend(const QString& path, QTemporaryFile& copy)

@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "tools/velorx/formats/DxfMendings.h"
 
+#include "tools/velorx/formats/DxfEntityRules.h"
+#include "tools/velorx/formats/DxfTextAnchor.h"
+
 #include <algorithm>
-#include <cmath>
 #include <iterator>
 #include <string_view>
 
@@ -11,12 +13,14 @@ namespace velorx {
 namespace {
 
 constexpr int kEmbeddedObject = 101;
-constexpr double kNear = 1e-9;
+constexpr int kDirection = 11;
+constexpr int kRotation = 50;
 
 // Those that can hold another object; those whose points stand in the plan, whatever their plane; those that
 // change their shape where their plane is seen from behind.
 constexpr std::string_view kHolders[] = {"MTEXT", "ATTRIB", "ATTDEF"};
-constexpr std::string_view kPlanKinds[] = {"POINT", "ELLIPSE", "SPLINE"};
+constexpr std::string_view kPlanKinds[] = {"POINT", "ELLIPSE", "SPLINE", "3DFACE",
+                                           "XLINE", "RAY",     "MTEXT"};
 constexpr std::string_view kTurnedKinds[] = {"LWPOLYLINE", "POLYLINE", "INSERT", "HATCH"};
 
 template <std::size_t Count>
@@ -25,23 +29,44 @@ bool IsAmong(const std::string_view (&names)[Count], std::string_view name)
     return std::find(std::begin(names), std::end(names), name) != std::end(names);
 }
 
+// A mesh that tells its faces.
+bool IsBody(const SDxfSurveyEntity& entity)
+{
+    constexpr int kFlags = 70;
+    constexpr int kBody = 64;
+    return entity.kind == "POLYLINE" && (entity.groups.Integer(kFlags) & kBody) != 0;
+}
+
+bool IsTurnedText(const SDxfSurveyEntity& entity)
+{
+    return entity.kind == "MTEXT" && !entity.groups.Has(kDirection)
+        && entity.groups.Number(kRotation) != 0;
+}
+
+bool IsOffItsBaseLine(const SDxfSurveyEntity& entity)
+{
+    const CDxfGroups& groups = entity.groups;
+    const auto number = [&groups](int code, double absent) { return groups.Number(code, absent); };
+    return (entity.kind == "TEXT" && IsAtAnchor(groups.Integer(73), number))
+        || (entity.kind == "ATTRIB" && IsAtAnchor(groups.Integer(74), number));
+}
+
 } // namespace
+
+bool CDxfMendings::CanHoldObject(std::string_view kind)
+{
+    return IsAmong(kHolders, kind);
+}
 
 void CDxfMendings::Take(const SDxfSurveyEntity& entity)
 {
-    const CDxfGroups& groups = entity.groups;
-    const bool isTilted =
-        std::fabs(groups.Number(210)) > kNear || std::fabs(groups.Number(220)) > kNear;
-    const bool isBehind = groups.Number(230, 1.0) < 0;
-    const bool isInPlan = IsAmong(kPlanKinds, entity.kind) && (isTilted || isBehind);
-    const bool isTurned = IsAmong(kTurnedKinds, entity.kind) && isBehind && !isTilted;
-    const bool isHolder = IsAmong(kHolders, entity.kind) && groups.Has(kEmbeddedObject);
-    if (isInPlan || isTurned || isHolder) {
-        ++count;
-    }
-    if (isTurned || (isInPlan && isBehind && !isTilted && entity.kind != "POINT")) {
-        ++mirrored[entity.layer];
-    }
+    const EDxfPlane plane = entity.groups.Plane();
+    const bool isInPlan = IsAmong(kPlanKinds, entity.kind) || IsPolylineInSpace(entity);
+    isNeeded = isNeeded || (isInPlan && plane != EDxfPlane::Plan)
+        || (IsAmong(kTurnedKinds, entity.kind) && plane == EDxfPlane::Behind)
+        || (CanHoldObject(entity.kind) && entity.groups.Has(kEmbeddedObject))
+        || entity.kind == "LEADER" || IsBody(entity) || IsTurnedText(entity)
+        || IsOffItsBaseLine(entity);
 }
 
 } // namespace velorx

@@ -3,29 +3,29 @@
 
 #include "tools/velorx/formats/DxfSurveyEntity.h"
 
-#include <QHash>
-#include <QString>
-#include <QtGlobal>
+#include <string_view>
 
 namespace velorx {
 
-/// Which entities of a drawing the library takes for others than they are, so that `CDxfMender` has to mend
-/// them. Memory grows with the names of layers.
+/// Whether the library takes entities of a drawing for others than they are, so that `CDxfMender` has to mend
+/// them.
 class CDxfMendings
 {
 public:
-    /// An entity that the library reads.
+    /// An entity that the library reads, or that is mended to be one.
     void Take(const SDxfSurveyEntity& entity);
 
-    /// Whether there is anything to mend.
-    bool AreNeeded() const { return count > 0; }
+    /// A trace, which the library does not read, but as a solid.
+    void TakeTrace() { isNeeded = true; }
 
-    /// How many entities on `layer` are mended that are drawn on a plane seen from behind.
-    qint64 Mirrored(const QString& layer) const { return mirrored.value(layer); }
+    /// Whether an entity of that kind, in capitals, can hold another object, behind a group 101.
+    static bool CanHoldObject(std::string_view kind);
+
+    /// Whether there is anything to mend.
+    bool AreNeeded() const { return isNeeded; }
 
 private:
-    qint64 count = 0;
-    QHash<QString, qint64> mirrored; ///< By layer.
+    bool isNeeded = false;
 };
 
 } // namespace velorx

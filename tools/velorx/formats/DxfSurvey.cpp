@@ -3,6 +3,7 @@
 #include "tools/velorx/formats/DxfSurvey.h"
 
 #include "tools/velorx/formats/DxfEntityRules.h"
+#include "tools/velorx/formats/DxfLeader.h"
 #include "tools/velorx/formats/DxfTagScan.h"
 
 #include <QFile>
@@ -22,6 +23,7 @@ constexpr std::size_t kMostStyleTags = 1000;
 constexpr int kFirstUtf8Version = 1019;
 constexpr int kIbm866Version = 1006;
 constexpr double kNear = 1e-9;
+constexpr int kEmbeddedObject = 101;
 
 // Records that are parts of others.
 constexpr std::string_view kParts[] = {"SEQEND", "ENDBLK", "ENDSEC", "SECTION"};
@@ -90,6 +92,9 @@ void CDxfSurvey::TakeTag(int code, std::string_view value)
         TakeHeader(code, value);
         return;
     }
+    if (groups.Has(kEmbeddedObject) && CDxfMendings::CanHoldObject(record)) {
+        return; // what follows is the other object's
+    }
     if (IsAmong(kOrdered, record) && tags.size() < kMostStyleTags) {
         tags.emplace_back(code, value);
     }
@@ -114,6 +119,10 @@ void CDxfSurvey::BeginSection(std::string_view name)
 void CDxfSurvey::BeginRecord(std::string_view kind)
 {
     record = Capitals(kind);
+    if (Is("TRACE")) {
+        record = "SOLID";
+        mendings.TakeTrace();
+    }
     shapes.Begin(record);
     hatchPatterns.Begin();
     if (Is("ENDSEC")) {
@@ -156,6 +165,8 @@ void CDxfSurvey::FinishEntity()
         hasReadInsert = kind == kInsert && !isLeftOut;
         if (isLeftOut) {
             tally.Lose(EDxfLoss::PaperSpace, Layer());
+        } else if (Is("LEADER")) {
+            TakeLeader();
         } else if (kind == kDxfKinds) {
             TakeUnknown();
         } else if (kind == kAttDef && !isInBlock) {
@@ -172,6 +183,17 @@ void CDxfSurvey::TakeUnknown()
     const SDxfSurveyEntity entity = {record, groups, Layer(), block, isInBlock};
     tally.Unread(record, entity.layer);
     pictures.Take(entity, [this](const std::string& bytes) { return Decoded(bytes); });
+}
+
+// A line or a curve, and its arrow head.
+void CDxfSurvey::TakeLeader()
+{
+    tally.Expect(IsCurve(groups) ? kSpline : kLWPolyline);
+    tally.Lose(EDxfLoss::Leaders, Layer());
+    JudgeEntity();
+    if (HasArrow(groups)) {
+        tally.Expect(kSolid);
+    }
 }
 
 void CDxfSurvey::JudgeEntity()

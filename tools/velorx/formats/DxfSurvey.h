@@ -94,6 +94,7 @@ private:
     void FinishRecord();
     void FinishEntity();
     void TakeUnknown();
+    void TakeLeader();
     void JudgeEntity();
     void JudgeMLine();
     void FinishTableRecord();
