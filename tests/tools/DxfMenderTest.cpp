@@ -4,7 +4,11 @@
 #include <gtest/gtest.h>
 
 #include <QBuffer>
+#include <QDir>
+#include <QFile>
 #include <QString>
+#include <QTemporaryDir>
+#include <QTemporaryFile>
 
 namespace velorx::test {
 
@@ -237,6 +241,24 @@ TEST(DxfMender, LeaderThatTheEndOfTheFileCutsOffKeepsItsLinesApart)
 {
     EXPECT_EQ(Mended("0\nLEADER\n71\n1\n10\n5\n8\nA"),
               "0\nLWPOLYLINE\n8\nA\n90\n1\n38\n0\n10\n5\n20\n0\n");
+}
+
+TEST(DxfMender, CopyHasNoNameThatCouldStayBehind)
+{
+    const QTemporaryDir folder;
+    const QByteArray before = qgetenv("TMPDIR");
+    QFile drawing(folder.filePath("a.dxf"));
+    ASSERT_TRUE(drawing.open(QIODevice::WriteOnly));
+    drawing.write(Drawing("0 POINT, 10 5, 230 -1"));
+    drawing.close();
+    ASSERT_TRUE(QDir(folder.path()).mkdir("temporary"));
+    qputenv("TMPDIR", QFile::encodeName(folder.filePath("temporary")));
+    QTemporaryFile copy;
+    QFile mended(Mend(drawing.fileName(), copy));
+    before.isNull() ? qunsetenv("TMPDIR") : qputenv("TMPDIR", before);
+    ASSERT_TRUE(mended.open(QIODevice::ReadOnly));
+    EXPECT_EQ(mended.readAll(), Drawing("0 POINT, 10 5"));
+    EXPECT_TRUE(QDir(folder.filePath("temporary")).isEmpty());
 }
 
 } // namespace velorx::test

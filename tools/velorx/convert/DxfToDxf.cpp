@@ -28,8 +28,8 @@ QString ConvertDxfToDxf(const SConversionJob& job, CConversionReport& report)
         return QStringLiteral("it cannot be opened");
     }
     QTemporaryFile mended;
-    const bool isMended = survey.Mendings().AreNeeded();
-    if (isMended && !Mend(job.source, mended)) {
+    const QString source = survey.Mendings().AreNeeded() ? Mend(job.source, mended) : job.source;
+    if (source.isEmpty()) {
         return QStringLiteral("a temporary copy of it cannot be written");
     }
     VelorExchange::CExportLog log;
@@ -39,7 +39,7 @@ QString ConvertDxfToDxf(const SConversionJob& job, CConversionReport& report)
     writer->Init(job.options.drawingVersion, &log);
     writer->SetPrecision(job.options.precision);
     CDxfReplay replay(*writer, job.options.drawingVersion, survey, tally, job.progress);
-    if (!Read(isMended ? mended.fileName() : job.source, &replay)) {
+    if (!Read(source, &replay)) {
         return QStringLiteral("the drawing ends inside a block");
     }
     replay.Finish();

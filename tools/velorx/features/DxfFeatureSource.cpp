@@ -102,13 +102,13 @@ QString CDxfFeatureSource::Read(IFeatureSink& sink, CFeatureTally& tally)
         return QStringLiteral("it cannot be opened");
     }
     QTemporaryFile mended;
-    const bool isMended = survey.Mendings().AreNeeded();
-    if (isMended && !Mend(path, mended)) {
+    const QString source = survey.Mendings().AreNeeded() ? Mend(path, mended) : path;
+    if (source.isEmpty()) {
         return QStringLiteral("a temporary copy of it cannot be written");
     }
     sink.TakeHead({NameOf(path), 0});
     CDxfFeatureReader reader(sink, tally, survey, counts, options);
-    const bool isWhole = VelorExchange::dxf::Read(isMended ? mended.fileName() : path, &reader);
+    const bool isWhole = VelorExchange::dxf::Read(source, &reader);
     reader.Finish();
     counts.EndReading();
     HandOnLosses(counts, tally);

@@ -270,11 +270,17 @@ void CDxfMender::MendLeader()
     DrawLeader(object, arrowSizes.value(name, kUsualArrowSize));
 }
 
-bool Mend(const QString& path, QTemporaryFile& copy)
+QString Mend(const QString& path, QTemporaryFile& copy)
 {
     QFile file(path);
-    return file.open(QIODevice::ReadOnly) && copy.open() && CDxfMender(file, copy).Run()
-        && copy.flush();
+    const bool isDone = file.open(QIODevice::ReadOnly) && copy.open()
+        && CDxfMender(file, copy).Run() && copy.flush();
+    if (!isDone) {
+        return {};
+    }
+    // Asked for its name, the file would get one, and stay behind where the process is ended.
+    const QString handle = QStringLiteral("/proc/self/fd/%1").arg(copy.handle());
+    return QFile::exists(handle) ? handle : copy.fileName();
 }
 
 } // namespace velorx

@@ -73,7 +73,8 @@ private:
     QHash<QByteArray, double> arrowSizes; ///< In file units, by dimension style in capitals.
 };
 
-/// Opens `copy` and mends the drawing at `path` into it; false if one of them cannot be read or written.
-bool Mend(const QString& path, QTemporaryFile& copy);
+/// Opens `copy` and mends the drawing at `path` into it. Returns a path to read it from as long as `copy` lives;
+/// empty if one of them cannot be read or written.
+QString Mend(const QString& path, QTemporaryFile& copy);
 
 } // namespace velorx
