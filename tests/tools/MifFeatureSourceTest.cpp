@@ -193,6 +193,18 @@ TEST_F(MifFeatureSource, ShapesBecomeLinesAndAreasByChords)
     EXPECT_LT(sink.areas[3].rings[0].size() * 5, fine);
 }
 
+TEST_F(MifFeatureSource, CurvesOfEndlessSizeAreLeftOutAndListed)
+{
+    Read("Ellipse -1 inf 1 1\nRoundrect 0 0 inf inf inf\nArc 0 0 1 1\n0 inf\nPoint 1 2\n");
+    EXPECT_TRUE(sink.areas.empty());
+    EXPECT_TRUE(sink.lines.empty());
+    EXPECT_EQ(sink.points.size(), 1U);
+    for (const char* kind : {"Ellipse", "RoundRect", "Arc"}) {
+        EXPECT_TRUE(Reports("1  " + std::string(kind) + ", with a number that is none: left out"))
+            << Report();
+    }
+}
+
 TEST_F(MifFeatureSource, TextsHaveTheirPlaces)
 {
     Read("Text\n\"two\\nlines\"\n1 2 31 12\nFont (\"Times New Roman\",1,0,255)\nAngle 30\n");

@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 namespace velorx::test {
 
@@ -112,6 +113,19 @@ TEST(MifShapes, EllipseHasTheAreaOfOne)
     const CFeatureLine ring = EllipseRing(ellipse, 0.0001);
     EXPECT_NEAR(AreaOf(ring), kPi * 5 * 10, 0.01);
     EXPECT_GT(std::hypot(ring.front().x - ring.back().x, ring.front().y - ring.back().y), 0.01);
+}
+
+TEST(MifShapes, CurvesOfEndlessSizeHaveNoVertices)
+{
+    constexpr double kEndless = std::numeric_limits<double>::infinity();
+    CRectMIF ellipse;
+    ellipse.corner1 = {-1, kEndless};
+    EXPECT_TRUE(EllipseRing(ellipse, 0.1).empty());
+    CRoundRectMIF rect;
+    rect.corner2 = {kEndless, kEndless};
+    rect.radius = kEndless;
+    EXPECT_TRUE(RoundRectRing(rect, 0.1).empty());
+    EXPECT_TRUE(ArcLine(Arc(0, kEndless), 0.1).empty());
 }
 
 TEST(MifShapes, RectangleRunsCounterClockwise)

@@ -46,6 +46,22 @@ CFeatureLine RingOf(const std::vector<CPoint2D>& points)
     return ring;
 }
 
+// Curves of endless size or sweep have become nothing.
+bool HasShape(const SFeature& /*feature*/)
+{
+    return true;
+}
+
+bool HasShape(const SLineFeature& line)
+{
+    return !line.points.empty();
+}
+
+bool HasShape(const SAreaFeature& area)
+{
+    return !area.rings.front().empty();
+}
+
 } // namespace
 
 CMifFeatureReader::CMifFeatureReader(const SMifFiles& files, QString layer,
@@ -115,7 +131,7 @@ void CMifFeatureReader::FillLook(SAreaFeature& area, const CPenMIF& pen, const C
 template <class TFeature>
 void CMifFeatureReader::Deliver(const TFeature& feature)
 {
-    if (IsFinite(feature)) {
+    if (HasShape(feature) && IsFinite(feature)) {
         HandOn(feature, sink, tally);
     } else {
         tally.Lose(QLatin1String(feature.kind)

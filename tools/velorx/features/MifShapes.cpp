@@ -48,7 +48,9 @@ CFeatureLine MifEllipseRing(const CRectMIF& ellipse, CChords& chords)
 {
     CFeatureLine ring =
         chords.EllipseArc(EllipseIn(SFrame(ellipse.corner1, ellipse.corner2)), 0.0, 2.0 * kPi);
-    ring.pop_back();
+    if (!ring.empty()) {
+        ring.pop_back();
+    }
     return ring;
 }
 

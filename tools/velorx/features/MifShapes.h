@@ -10,7 +10,7 @@
 namespace velorx {
 
 // The shapes of a table as chains of straight segments. Rings do not end with their first vertex and run
-// counter-clockwise. Empty if an angle is no number.
+// counter-clockwise. Curves are empty if an angle or a radius is no finite number.
 CFeatureLine MifArcLine(const VelorExchange::mif::CArcMIF& arc, CChords& chords);
 CFeatureLine MifEllipseRing(const VelorExchange::mif::CRectMIF& ellipse, CChords& chords);
 CFeatureLine MifRectRing(const VelorExchange::CPoint2D& corner1,
