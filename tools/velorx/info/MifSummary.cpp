@@ -78,42 +78,42 @@ void CMifSummary::CountPoints(EKind kind, const Record& record)
 
 void CMifSummary::AddArc(const CArcMIF& arc)
 {
-    CountCorners(kArc, arc);
+    CountCorners(kArcs, arc);
 }
 
 void CMifSummary::AddRoundRect(const CRoundRectMIF& rect)
 {
-    CountCorners(kRoundRect, rect);
+    CountCorners(kRoundRects, rect);
 }
 
 void CMifSummary::AddEllipse(const CRectMIF& rect)
 {
-    CountCorners(kEllipse, rect);
+    CountCorners(kEllipses, rect);
 }
 
 void CMifSummary::AddRect(const CRectMIF& rect)
 {
-    CountCorners(kRect, rect);
+    CountCorners(kRects, rect);
 }
 
 void CMifSummary::AddText(const CTextMIF& text)
 {
-    CountCorners(kText, text);
+    CountCorners(kTexts, text);
 }
 
 void CMifSummary::AddPolyline(const CPolylineMIF& line)
 {
-    CountPoints(kPolyline, line);
+    CountPoints(kPolylines, line);
 }
 
 void CMifSummary::AddRegion(const CRegionMIF& region)
 {
-    CountPoints(kRegion, region);
+    CountPoints(kRegions, region);
 }
 
 void CMifSummary::AddPoint(const CPointMIF& point)
 {
-    Count(kPoint, point);
+    Count(kPoints, point);
     extents.Add(point.position);
 }
 

@@ -21,14 +21,14 @@ class CMifSummary final : public ISummary, public VelorExchange::mif::IMIFReader
 public:
     /// Kinds of objects, in the order of the operations that deliver them.
     enum EKind : std::size_t {
-        kArc,
-        kRoundRect,
-        kEllipse,
-        kRect,
-        kText,
-        kPolyline,
-        kRegion,
-        kPoint,
+        kArcs,
+        kRoundRects,
+        kEllipses,
+        kRects,
+        kTexts,
+        kPolylines,
+        kRegions,
+        kPoints,
         kKinds
     };
 

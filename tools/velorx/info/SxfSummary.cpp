@@ -61,22 +61,22 @@ QString CSxfSummary::Read(const QString& path, VelorExchange::dxf::IDXFProgress*
 
 void CSxfSummary::AddText(CTextObject* text)
 {
-    Count(kText, *text);
+    Count(kTexts, *text);
 }
 
 void CSxfSummary::AddSquare(CSquareObject* square)
 {
-    Count(kSquare, *square);
+    Count(kSquares, *square);
 }
 
 void CSxfSummary::AddLine(CLineObject* line)
 {
-    Count(kLine, *line);
+    Count(kLines, *line);
 }
 
 void CSxfSummary::AddPoint(CPointObject* point)
 {
-    Count(kPoint, *point);
+    Count(kPoints, *point);
 }
 
 void CSxfSummary::Count(EKind kind, const CBaseObject& object)

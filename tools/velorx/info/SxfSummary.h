@@ -19,7 +19,7 @@ class CSxfSummary final : public ISummary, public VelorExchange::pnr::IPnrReader
 {
 public:
     /// Kinds of objects.
-    enum EKind : std::size_t { kLine, kSquare, kPoint, kText, kKinds };
+    enum EKind : std::size_t { kLines, kSquares, kPoints, kTexts, kKinds };
 
     struct SCounts
     {
