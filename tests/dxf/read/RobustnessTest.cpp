@@ -392,7 +392,7 @@ TEST(Robustness, BinaryDrawingGivesNothing)
     // The mark of the form, then codes of two bytes and texts that end in a zero.
     QByteArray bytes("AutoCAD Binary DXF\r\n\x1A", 21);
     for (int i = 0; i < 1000; ++i) {
-        bytes += QByteArray("\0\0\0SECTION\0\2\0ENTITIES\0\0\0POINT\0\n\0\0\0\0\0\0\0\xF0\x3F", 44);
+        bytes += QByteArray("\0\0\0SECTION\0\2\0ENTITIES\0\0\0POINT\0\n\0\0\0\0\0\0\0\xF0\x3F", 40);
         bytes += QByteArray("\0\0ENDSEC\0\0\0EOF\0", 15);
     }
     EXPECT_EQ(Recorded(bytes), "");
