@@ -185,7 +185,7 @@ TEST(ConvertDrawing, FullDiskLeavesTheOldTarget)
     const std::string target = folder.Write("target.dxf", "old");
     rlimit before = {};
     getrlimit(RLIMIT_FSIZE, &before);
-    for (const rlim_t size : {4096, 30000, 120000}) {
+    for (const rlim_t size : {4096U, 30000U, 120000U}) {
         rlimit limit = before;
         limit.rlim_cur = size;
         const auto handler = std::signal(SIGXFSZ, SIG_IGN);
