@@ -107,7 +107,7 @@ TEST_F(MifTableFiles, DetailsGoIntoTheObjects)
     }
     Put(changes);
     std::string expected = regions;
-    for (const std::size_t object : {49'999, 25'000}) {
+    for (const std::size_t object : {49'999U, 25'000U}) {
         expected.replace(object * region.size() + region.find("(1, 1, 0)"), 9, "(1, 7, 0)");
     }
     EXPECT_TRUE(Table().substr(Table().size() - expected.size()) == expected);
