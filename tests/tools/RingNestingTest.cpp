@@ -74,6 +74,21 @@ TEST(RingNesting, RingsWithoutAreaDoNoHarm)
     EXPECT_TRUE(NestRings({}).empty());
 }
 
+TEST(RingNesting, RingsOfNoNumbersLeaveTheOthersInOrder)
+{
+    const double nan = std::nan("");
+    std::vector<CFeatureLine> rings;
+    for (int i = 0; i < 100; ++i) {
+        const int level = i * 37 % 100;
+        rings.push_back(Square(level, level, 400 - 2 * level));
+        rings.push_back({{nan, nan, 0}, {1, nan, 0}, {nan, 1, 0}});
+    }
+    const std::vector<SRingNest> nests = NestRings(rings);
+    for (int i = 0; i < 100; ++i) {
+        EXPECT_EQ(nests[static_cast<std::size_t>(2 * i)].depth, i * 37 % 100);
+    }
+}
+
 TEST(RingNesting, ManyIslandsTakeNoTime)
 {
     std::vector<CFeatureLine> rings;

@@ -13,6 +13,12 @@ namespace {
 
 enum class ESide { Outside, On, Inside };
 
+// What is no number would have no place in any order.
+double Known(double value)
+{
+    return std::isnan(value) ? 0.0 : value;
+}
+
 struct SBox
 {
     double left = 0.0;
@@ -21,17 +27,17 @@ struct SBox
     double top = 0.0;
     double area = 0.0; // of the ring, without sign
 
-    explicit SBox(const CFeatureLine& ring) : area(std::fabs(SignedArea(ring)))
+    explicit SBox(const CFeatureLine& ring) : area(Known(std::fabs(SignedArea(ring))))
     {
         const auto [least, most] = std::minmax_element(
             ring.begin(), ring.end(), [](const auto& a, const auto& b) { return a.x < b.x; });
         const auto [low, high] = std::minmax_element(
             ring.begin(), ring.end(), [](const auto& a, const auto& b) { return a.y < b.y; });
         if (!ring.empty()) {
-            left = least->x;
-            right = most->x;
-            bottom = low->y;
-            top = high->y;
+            left = Known(least->x);
+            right = Known(most->x);
+            bottom = Known(low->y);
+            top = Known(high->y);
         }
     }
 
@@ -68,6 +74,9 @@ ESide SideOf(double x, double y, const CFeatureLine& ring)
 // all on the other is told by the middle of an edge.
 bool LiesIn(const CFeatureLine& inner, const CFeatureLine& outer)
 {
+    if (inner.empty() || outer.empty()) {
+        return false;
+    }
     for (const CPoint3D& vertex : inner) {
         const ESide side = SideOf(vertex.x, vertex.y, outer);
         if (side != ESide::On) {
