@@ -198,8 +198,9 @@ void CompareResult(const CConversionReport& report, const CCounter& result)
     CCounts written;
     std::map<EDxfLoss, qint64> changed;
     for (const SConvertedKind& kind : report.kinds) {
-        for (const auto& [name, count] : WrittenAs(kind)) {
-            written[name] += count;
+        for (const auto& entry : WrittenAs(kind)) {
+            const std::string& name = entry.first; // a lambda cannot refer to a part of a binding
+            written[name] += entry.second;
             if (name == kind.name.toStdString()) {
                 continue;
             }
@@ -208,7 +209,7 @@ void CompareResult(const CConversionReport& report, const CCounter& result)
                     return kind.name == QLatin1String(row.source) && name == row.result;
                 });
             ASSERT_NE(other, std::end(kOtherKinds)) << kind.name.toStdString() << " as " << name;
-            changed[other->loss] += count;
+            changed[other->loss] += entry.second;
         }
     }
     EXPECT_EQ(written, Joined(result));
