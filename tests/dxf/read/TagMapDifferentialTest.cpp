@@ -34,8 +34,8 @@ QByteArray RandomTags(std::mt19937& random)
                                              "10 ",
                                              "a42",
                                              "00",
-                                             "\xC2\xA0"
-                                             "10"};
+                                             ("\xC2\xA0"
+                                              "10")};
     static const char* const kValues[] = {"",
                                           "1",
                                           "2.5",
