@@ -324,7 +324,7 @@ def check_drawings():
                                    path("report.json"), os.path.join(parent, name),
                                    path("drawing.mif")], capture_output=True, text=True)
             if done.returncode != 0:
-                expect("binary" in done.stderr or "ends inside" in done.stderr, name, done.stderr)
+                expect("like a text drawing" in done.stderr or "ends inside" in done.stderr, name, done.stderr)
                 continue
             with open(path("report.json"), encoding="utf-8") as file:
                 counts = written(json.load(file))
