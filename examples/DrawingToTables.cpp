@@ -78,7 +78,8 @@ try {
     if (isRead) {
         writer->Rewrite(QString::fromLocal8Bit(argv[2]), nullptr);
     } else {
-        std::fputs("usage: DrawingToTables DRAWING FOLDER, of a drawing that can be read\n", stderr);
+        std::fputs("usage: DrawingToTables DRAWING FOLDER, of a drawing that can be read\n",
+                   stderr);
     }
     mif::DeleteMIFWriter(writer);
     QString report;

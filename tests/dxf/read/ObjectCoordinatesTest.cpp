@@ -99,7 +99,8 @@ TEST(ObjectCoordinates, SmallComponentsTakeTheYAxis)
 TEST(ObjectCoordinates, NegativeComponentsTakeTheYAxis)
 {
     for (const CPoint3D& n :
-         {CPoint3D{-0.9, 0, 0.4}, CPoint3D{-0.5, 0, 0.8}, CPoint3D{-0.3, -0.9, 0.4}}) {
+         {CPoint3D{-0.9, 0, 0.4}, CPoint3D{-0.5, 0, 0.8}, CPoint3D{-0.3, -0.9, 0.4}})
+    {
         EXPECT_EQ(World(n, kPoint), WithAxis(kYAxis, n)) << Shown(n);
         EXPECT_NE(World(n, kPoint), WithAxis(kZAxis, n)) << Shown(n);
     }
