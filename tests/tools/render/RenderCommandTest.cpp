@@ -8,6 +8,8 @@
 #include <QImage>
 #include <QXmlStreamReader>
 
+#include <sys/resource.h>
+
 #include <filesystem>
 #include <iterator>
 #include <set>
@@ -17,6 +19,27 @@ namespace velorx::test {
 namespace {
 
 constexpr char kPlan[] = "data/survey-plan.dxf";
+
+/// No file may grow beyond so many bytes, here and in programs that are run from here.
+class CLimitOfFiles
+{
+public:
+    explicit CLimitOfFiles(rlim_t bytes)
+    {
+        getrlimit(RLIMIT_FSIZE, &before);
+        rlimit limit = before;
+        limit.rlim_cur = bytes;
+        setrlimit(RLIMIT_FSIZE, &limit);
+    }
+
+    CLimitOfFiles(const CLimitOfFiles&) = delete;
+    CLimitOfFiles& operator=(const CLimitOfFiles&) = delete;
+
+    ~CLimitOfFiles() { setrlimit(RLIMIT_FSIZE, &before); }
+
+private:
+    rlimit before = {};
+};
 
 class RenderCommand : public testing::Test
 {
@@ -87,6 +110,25 @@ TEST_F(RenderCommand, PictureThatIsThereIsNotReplaced)
     EXPECT_EQ(run.exitCode, 1);
     EXPECT_NE(run.err.find("it exists (--force replaces it)"), std::string::npos) << run.err;
     EXPECT_EQ(ReadFile(path), "mine");
+}
+
+TEST_F(RenderCommand, PictureThatHasNoRoomIsAFailureAndLeavesTheOldOne)
+{
+    constexpr rlim_t kLimits[] = {4000, 20000, 40000};
+    for (const char* name : {"plan.png", "plan.svg", "plan.pdf"}) {
+        const std::string path = folder.Write(name, "mine");
+        for (const rlim_t limit : kLimits) {
+            SCOPED_TRACE(std::string(name) + " " + std::to_string(limit));
+            const CLimitOfFiles small(limit);
+            const SRun run = RunVelorx({"render", "--force", kPlan, path});
+            EXPECT_EQ(run.exitCode, 1);
+            EXPECT_NE(run.err.find("writing failed, perhaps because the disk is full"),
+                      std::string::npos)
+                << run.err;
+            EXPECT_EQ(ReadFile(path), "mine");
+        }
+    }
+    EXPECT_EQ(NamesIn(folder.path).size(), 3U);
 }
 
 TEST_F(RenderCommand, DrawsTheDemoDrawing)

@@ -104,9 +104,9 @@ QString CPictureDevice::Finish()
         isWritten = isEncoded && file.write(content.data()) == content.size() && isWritten;
     }
     device.reset(); // the file is still open, so that what is left in buffers gets there
-    isWritten = file.flush() && file.error() == QFileDevice::NoError && isWritten;
+    isWritten = file.flush() && file.IsWhole() && isWritten;
     file.close();
-    return isWritten && file.error() == QFileDevice::NoError
+    return isWritten && file.IsWhole()
         ? QString()
         : QStringLiteral("writing failed, perhaps because the disk is full");
 }

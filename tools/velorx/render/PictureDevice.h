@@ -2,8 +2,8 @@
 #pragma once
 
 #include "tools/velorx/render/Picture.h"
+#include "tools/velorx/render/PictureFile.h"
 
-#include <QFile>
 #include <QPainter>
 #include <QSize>
 
@@ -35,7 +35,7 @@ public:
     QString Finish();
 
 private:
-    QFile file;
+    CPictureFile file;
     std::unique_ptr<QPaintDevice> device;
     QPainter painter; // ends before what it paints on
     EPictureFormat format = EPictureFormat::Png;
