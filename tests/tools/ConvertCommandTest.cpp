@@ -199,6 +199,22 @@ TEST(ConvertCommand, AReportIsNeitherSourceNorTarget)
     EXPECT_EQ(ReadFile(source), SmallDrawing());
 }
 
+TEST(ConvertCommand, AReportIsNotTheRowsOfATableEither)
+{
+    const CTemporaryFolder folder;
+    const std::string table = folder.path + "/a.mif";
+    ASSERT_EQ(RunVelorx({"convert", kPlan, table}).exitCode, 0);
+    const std::string rows = ReadFile(folder.path + "/a.mid");
+    const std::string pair = folder.path + "/b.mif";
+    for (const char* name : {"/a.mid", "/b.mid"}) {
+        const std::string report = folder.path + name;
+        ExpectFailure(RunVelorx({"convert", "--force", table, pair, "--report", report}),
+                      "cannot write " + report + ": it is another file of this run");
+    }
+    EXPECT_EQ(ReadFile(folder.path + "/a.mid"), rows);
+    EXPECT_EQ(NamesIn(folder.path), Strings({"a.mid", "a.mif"}));
+}
+
 TEST(ConvertCommand, OptionDryRunTellsTheSameAndLeavesNothing)
 {
     const CTemporaryFolder folder;

@@ -112,16 +112,6 @@ bool Identify(const std::string& path, CFileId& id)
     return true;
 }
 
-// A table's rows are read as well, and written as well.
-std::vector<std::string> WithRows(const std::string& path)
-{
-    const STargetFamily* family = TargetFamilyOf(path);
-    if (family == nullptr || !IsTables(family)) {
-        return {path};
-    }
-    return {path, RowsBeside(path)};
-}
-
 void RefuseSources(SConversionPlan& plan)
 {
     std::map<CFileId, const SPlannedFile*> sources;
@@ -194,6 +184,15 @@ SConversionPlan PlanConversion(const std::vector<std::string>& sources, const st
     NameTargets(target, isFolder, plan);
     RefuseSources(plan);
     return plan;
+}
+
+std::vector<std::string> WithRows(const std::string& path)
+{
+    const STargetFamily* family = TargetFamilyOf(path);
+    if (family == nullptr || !IsTables(family)) {
+        return {path};
+    }
+    return {path, RowsBeside(path)};
 }
 
 } // namespace velorx

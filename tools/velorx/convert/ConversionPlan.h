@@ -38,4 +38,7 @@ struct SConversionPlan
 SConversionPlan PlanConversion(const std::vector<std::string>& sources, const std::string& target,
                                const std::string& extension);
 
+/// `path`, and with a table also the rows beside it, which are read as well, and written as well.
+std::vector<std::string> WithRows(const std::string& path);
+
 } // namespace velorx

@@ -70,10 +70,16 @@ bool IsSamePath(const std::string& one, const std::string& other)
     return !error && path == std::filesystem::weakly_canonical(other, error) && !error;
 }
 
+bool IsAmong(const std::vector<std::string>& paths, const std::string& name)
+{
+    return std::any_of(paths.begin(), paths.end(),
+                       [&name](const std::string& path) { return IsSamePath(name, path); });
+}
+
 bool IsInPlan(const std::string& name, const SConversionPlan& plan)
 {
     return std::any_of(plan.files.begin(), plan.files.end(), [&name](const SPlannedFile& file) {
-        return IsSamePath(name, file.source) || IsSamePath(name, file.target);
+        return IsAmong(WithRows(file.source), name) || IsAmong(WithRows(file.target), name);
     });
 }
 
