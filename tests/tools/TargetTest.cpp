@@ -97,6 +97,17 @@ TEST(TargetFile, ReplacesWhatALinkLeadsTo)
     EXPECT_EQ(ReadFile(real), "new");
 }
 
+TEST(TargetFile, LeavesALinkThatLeadsNowhereAlone)
+{
+    const CTemporaryFolder folder;
+    const std::string link = folder.path + "/link.dxf";
+    std::filesystem::create_symlink(folder.path + "/nowhere.dxf", link);
+    CTemporaries temporaries;
+    EXPECT_EQ(MakeTarget(ETargetKind::File, link, temporaries)->Begin(true),
+              "it is a link that leads nowhere");
+    EXPECT_TRUE(std::filesystem::is_symlink(link));
+}
+
 TEST(TargetFile, IsNoFolderAndNoDevice)
 {
     const CTemporaryFolder folder;

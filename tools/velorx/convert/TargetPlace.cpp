@@ -44,7 +44,8 @@ std::string FindPlace(const std::string& name, bool mayReplace, STargetPlace& pl
     place.rights.reset();
     struct stat status = {};
     if (error || stat(real.c_str(), &status) != 0) {
-        return {}; // nothing is there
+        const bool isLink = lstat(name.c_str(), &status) == 0 && S_ISLNK(status.st_mode);
+        return isLink ? "it is a link that leads nowhere" : ""; // or nothing is there
     }
     if (!S_ISREG(status.st_mode)) {
         return S_ISDIR(status.st_mode) ? "it is a folder" : "it is no ordinary file";
