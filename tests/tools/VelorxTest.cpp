@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <sys/stat.h>
+
 namespace velorx::test {
 
 namespace {
@@ -110,6 +112,19 @@ TEST(Velorx, PointsToTheHelpOfTheCommandInHand)
 {
     EXPECT_TRUE(Contains(RunVelorx({"info", "--loud", kPlan}).err,
                          "\nvelorx info --help tells how it is used.\n"));
+}
+
+TEST(Velorx, PipesAreNotRead)
+{
+    const CTemporaryFolder folder;
+    const std::string pipe = folder.path + "/a.dxf";
+    ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
+    const std::string fault = pipe + ": it is no ordinary file\n";
+    EXPECT_EQ(RunVelorx({"info", pipe}).err, "velorx: cannot read " + fault);
+    EXPECT_EQ(RunVelorx({"check", pipe}).err, "velorx: cannot check " + fault);
+    const SRun run = RunVelorx({"convert", pipe, folder.path + "/b.dxf"});
+    EXPECT_EQ(run.err, "velorx: cannot convert " + fault);
+    EXPECT_EQ(run.exitCode, 1);
 }
 
 } // namespace velorx::test

@@ -9,7 +9,6 @@
 #include "tools/velorx/ProgressBar.h"
 
 #include <QFile>
-#include <QFileInfo>
 
 #include <algorithm>
 #include <cstring>
@@ -29,8 +28,9 @@ bool IsTextMap(const SFamily& family, const QByteArray& head)
 
 QString Check(const QString& path, SCheckedFile& result)
 {
-    if (QFileInfo(path).isDir()) {
-        return QStringLiteral("it is a folder, not a file");
+    const QString fault = WhyNoFile(path);
+    if (!fault.isEmpty()) {
+        return fault;
     }
     QFile probe(path);
     if (!probe.open(QIODevice::ReadOnly)) {

@@ -5,7 +5,6 @@
 #include "tools/velorx/HostCodec.h"
 
 #include <QFile>
-#include <QFileInfo>
 
 #include <cstring>
 
@@ -20,8 +19,9 @@ constexpr char kPlainText[] = "txt";
 std::string FindSourceFamily(const std::string& path, const SFamily*& family)
 {
     QFile probe(PathFromBytes(path));
-    if (QFileInfo(probe.fileName()).isDir()) {
-        return "it is a folder, not a file";
+    const QString fault = WhyNoFile(probe.fileName());
+    if (!fault.isEmpty()) {
+        return fault.toStdString();
     }
     if (!probe.open(QIODevice::ReadOnly)) {
         return "it cannot be opened: " + probe.errorString().toStdString();

@@ -54,6 +54,15 @@ const SFamily* FindFamily(const QString& path, const QByteArray& head)
     return nullptr;
 }
 
+QString WhyNoFile(const QString& path)
+{
+    const QFileInfo info(path);
+    if (info.isDir()) {
+        return QStringLiteral("it is a folder, not a file");
+    }
+    return info.exists() && !info.isFile() ? QStringLiteral("it is no ordinary file") : QString();
+}
+
 QString WhyNoFamily(const QString& path)
 {
     const QString extension = QFileInfo(path).suffix();

@@ -30,6 +30,10 @@ constexpr qint64 kHeadSize = 4096;
 /// if neither is known.
 const SFamily* FindFamily(const QString& path, const QByteArray& head);
 
+/// Why what is at `path` cannot be read as a file, in words that follow its name; empty if nothing is there. Files
+/// are read several times and from several places, which pipes do not allow.
+QString WhyNoFile(const QString& path);
+
 /// Why a file that `FindFamily` does not know is of none, in words that follow its name.
 QString WhyNoFamily(const QString& path);
 

@@ -7,7 +7,6 @@
 #include "tools/velorx/ProgressBar.h"
 
 #include <QFile>
-#include <QFileInfo>
 #include <QJsonDocument>
 
 namespace velorx {
@@ -65,8 +64,9 @@ CLI::App* CInfoCommand::AddTo(CLI::App& app)
 EExit CInfoCommand::Run()
 {
     const QString path = PathFromBytes(file);
-    if (QFileInfo(path).isDir()) {
-        PrintError("cannot read " + file + ": it is a folder, not a file");
+    const QString fault = WhyNoFile(path);
+    if (!fault.isEmpty()) {
+        PrintError("cannot read " + file + ": " + fault.toStdString());
         return kExitFailed;
     }
     QFile probe(path);
