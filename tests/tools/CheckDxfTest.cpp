@@ -57,6 +57,12 @@ TEST(CheckDxf, FindsAStartThatIsNone)
     EXPECT_EQ(Found(""), Strings({"no-end byte 0", "no-start byte 0"}));
 }
 
+TEST(CheckDxf, FindsAByteOrderMark)
+{
+    EXPECT_EQ(Found("\xEF\xBB\xBF" + Entities("")),
+              Strings({"no-start line 1: a byte order mark"}));
+}
+
 TEST(CheckDxf, FindsCodesThatAreNoNumbers)
 {
     EXPECT_EQ(Found(Entities("0\nPOINT\n8\n0\nx\n1\n\n2\n-5\n3\n")),

@@ -94,6 +94,7 @@ private:
     void TakeCode(std::string_view text)
     {
         if (lines.Line() == 1 && text.substr(0, 3) == kByteOrderMark) {
+            hasByteOrderMark = true;
             text.remove_prefix(3);
         }
         const char* end = text.data() + text.size();
@@ -115,7 +116,9 @@ private:
     {
         if (!isStarted && pair.code != kComment) {
             isStarted = true;
-            if (pair.code != 0 || pair.value != "SECTION") {
+            if (hasByteOrderMark) {
+                findings.Add(kNoStart, {1, 0}, QStringLiteral("a byte order mark"));
+            } else if (pair.code != 0 || pair.value != "SECTION") {
                 findings.Add(kNoStart, pair.codePlace, Shown(pair.value));
             }
         }
@@ -138,6 +141,7 @@ private:
     CDxfCounts counts;
     SDxfPair pair;
     QString badCode;
+    bool hasByteOrderMark = false;
     bool isStarted = false;
 };
 
