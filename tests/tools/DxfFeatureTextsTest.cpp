@@ -11,6 +11,8 @@ namespace {
 
 constexpr char kAnchors[] =
     "texts set by their middle or right end, set by the left one at the same place";
+constexpr char kStretched[] =
+    "texts stretched between two points, set by the left one in their own width";
 
 } // namespace
 
@@ -65,6 +67,20 @@ TEST(DxfFeatureTexts, TextSetByItsRightEndIsSetByItsLeft)
     EXPECT_EQ(read.texts.at(0).position.x, 1);
     EXPECT_EQ(read.texts.at(0).align, EFeatureAlign::Left);
     EXPECT_EQ(stream.Lost(kAnchors), "1: A 1");
+}
+
+TEST(DxfFeatureTexts, TextsBetweenTwoPointsAreListed)
+{
+    CDxfStream stream;
+    const auto& read =
+        stream
+            .Entities("0 TEXT, 8 A, 10 1, 20 2, 11 9, 21 2, 40 2, 41 0.7, 72 3, 1 x, "
+                      "0 TEXT, 8 B, 10 1, 20 2, 11 9, 21 2, 40 2, 72 5, 1 x")
+            .Read();
+    EXPECT_EQ(read.texts.at(0).position.x, 1);
+    EXPECT_EQ(read.texts[0].widthFactor, 0.7);
+    EXPECT_EQ(stream.Lost(kStretched), "2: A 1, B 1");
+    EXPECT_EQ(stream.Lost(kAnchors), "");
 }
 
 TEST(DxfFeatureTexts, TextsOfADrawingThatTellsTheirAnchorsKeepThem)

@@ -39,6 +39,8 @@ constexpr char kBoundaries[] = "hatches with boundaries that enclose nothing, wh
 constexpr char kFormats[] = "texts with formatting that is dropped";
 constexpr char kAnchors[] =
     "texts set by their middle or right end, set by the left one at the same place";
+constexpr char kStretchedTexts[] =
+    "texts stretched between two points, set by the left one in their own width";
 constexpr char kMirroredTexts[] = "texts mirrored by their insert, written to be read";
 constexpr char kFollowedColours[] =
     "elements of blocks in the colour of their insert's layer, black among other black ones";

@@ -56,6 +56,9 @@ bool CDxfFeatureReader::GiveTextLine(const char* kind, const CTextDXF& record, d
             Changed(losses::kAnchors, text.layer);
         }
     }
+    if (record.alignment == kAligned || record.alignment == kFit) {
+        Changed(losses::kStretchedTexts, text.layer);
+    }
     text.widthFactor = widthFactor > 0 ? widthFactor : 1.0;
     text.slant = record.style.obliqueAngle;
     return GiveWords(text, record, PlainOfText(record.text));
