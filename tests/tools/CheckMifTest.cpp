@@ -243,6 +243,13 @@ TEST(CheckMif, TellsOfDatesAndLogicalValuesThatAreMisread)
               Strings({"date .mid line 1: D (2 times)", "logical .mid line 1: L"}));
 }
 
+TEST(CheckMif, TellsOfNumbersThatLoseDigits)
+{
+    EXPECT_EQ(
+        FoundInRows("F Float\nD Decimal (12, 3)\n", 2, "12.7,6543210.123\n6543210.123,0\n", 2),
+        Strings({"float .mid line 2: F: 6543210.123"}));
+}
+
 TEST(CheckMif, FindsTextOutsideOfTheCodePage)
 {
     const CCodePage codePage("UTF-8");

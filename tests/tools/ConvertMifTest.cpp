@@ -86,6 +86,33 @@ TEST_F(ConvertMif, TableComesOutAsItWas)
         << File("out.mif");
 }
 
+TEST_F(ConvertMif, FloatsKeepTheirDigits)
+{
+    folder.Write("f.mif",
+                 std::string(kHeader) + "Columns 1\nF Float\nData\nPoint 1 2\nPoint 3 4\n");
+    folder.Write("f.mid", "12.7\n-0.1\n");
+    const SRun run = Convert({Path("f.mif"), Path("g.mif")});
+    EXPECT_TRUE(Contains(run.out, "Nothing was lost or changed")) << run.out;
+    EXPECT_TRUE(Contains(File("g.mif"), "\nF FLOAT\n")) << File("g.mif");
+    EXPECT_EQ(File("g.mid"), "12.7\n-0.1\n");
+    EXPECT_EQ(Convert({Path("f.mif"), Path("f.dxf")}).exitCode, 0);
+    EXPECT_TRUE(Contains(File("f.dxf"), "\n12.7\r\n"));
+    EXPECT_FALSE(Contains(File("f.dxf"), "12.699"));
+}
+
+TEST_F(ConvertMif, FloatsOfManyDigitsAreListed)
+{
+    folder.Write("f.mif",
+                 std::string(kHeader) + "Columns 1\nF Float\nData\nPoint 1 2\nPoint 3 4\n");
+    folder.Write("f.mid", "12.7\n123456.789\n");
+    const SRun run = Convert({Path("f.mif"), Path("g.mif")});
+    EXPECT_TRUE(Contains(run.out,
+                         "1  numbers of Float columns with seven digits or more, of which "
+                         "about seven are read (layers: f 1)"))
+        << run.out;
+    EXPECT_EQ(File("g.mid"), "12.7\n123456.79\n");
+}
+
 TEST_F(ConvertMif, LayersOfATableBecomePairsAndATableAgain)
 {
     EXPECT_EQ(Convert({"--to", "mif", Path("in.mif"), Path("pairs") + "/"}).exitCode, 0);

@@ -40,7 +40,7 @@ TEST(MifColumns, ValuesOfTheTypesOfTablesStayAsTheyAre)
                    {"C", QVariant::fromValue<short>(6)},
                    {"D", 2.5},
                    {"E", QVariant::fromValue(0.5F)}}),
-              "A=QString:x B=int:5 C=short:6 D=double:2.5 E=float:0.5 ");
+              "A=QString:x B=int:5 C=short:6 D=double:2.5 E=double:0.5 ");
     EXPECT_TRUE(columns.TakeRenamed().empty());
 }
 
@@ -165,6 +165,8 @@ TEST(MifColumns, TypesFollowTheWidestValue)
     EXPECT_EQ(columns.TypeOf("C"), "");
     EXPECT_EQ(columns.TypeOf("D"), "");
     EXPECT_EQ(columns.TypeOf("unheard"), "");
+    Row(columns, {{"E", 0.5F}});
+    EXPECT_EQ(columns.TypeOf("E"), "FLOAT");
     Row(columns, {{"C", 1.1234567}});
     EXPECT_EQ(columns.TypeOf("C"), "DECIMAL(20,7)");
     Row(columns, {{"C", 123456789012.5}});

@@ -60,6 +60,9 @@ inline constexpr SFindingKind kDate = {"date", kRemark, "dates, which are read a
                                        true};
 inline constexpr SFindingKind kLogical = {"logical", kRemark,
                                           "logical values that are true and read as false", true};
+inline constexpr SFindingKind kFloat = {
+    "float", kRemark,
+    "numbers of Float columns with more than the about seven digits that are read"};
 
 inline constexpr SFindingKind kBadText = {"bad-text", kFault,
                                           "texts with bytes that mean nothing in their code page"};

@@ -3,6 +3,7 @@
 
 #include "tools/velorx/check/Encoding.h"
 #include "tools/velorx/check/MifKindsOfFinding.h"
+#include "tools/velorx/formats/SingleNumber.h"
 
 #include <QDate>
 
@@ -27,6 +28,13 @@ bool IsNumber(std::string_view field)
     bool isNumber = false;
     const double number = Bytes(field).toDouble(&isNumber);
     return isNumber && std::isfinite(number);
+}
+
+// Whether single precision holds all its digits.
+bool IsSingle(std::string_view field)
+{
+    const double number = Bytes(field).toDouble();
+    return ShortestOf(static_cast<float>(number)).value == number;
 }
 
 template <class T, T (QByteArray::*convert)(bool*, int) const>
@@ -138,8 +146,13 @@ void CMifRowCheck::CheckValue(const SMifColumnType& column, std::string_view fie
         isGood = IsWhole<short, &QByteArray::toShort>(field);
         break;
     case EMifType::Decimal:
+        isGood = IsNumber(field);
+        break;
     case EMifType::Float:
         isGood = IsNumber(field);
+        if (isGood && !IsSingle(field)) {
+            Add(kFloat, column, field);
+        }
         break;
     case EMifType::Date:
         CheckDate(column, field);

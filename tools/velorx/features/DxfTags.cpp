@@ -6,6 +6,7 @@
 #include "tools/velorx/features/DxfTargetLosses.h"
 #include "tools/velorx/features/FeatureTally.h"
 #include "tools/velorx/formats/DrawingText.h"
+#include "tools/velorx/formats/SingleNumber.h"
 
 #include <QSet>
 
@@ -46,10 +47,17 @@ QString LegalName(const QString& name, QSet<QString>& used)
     return unused;
 }
 
+QString PlainText(const QVariant& value)
+{
+    return value.userType() == QMetaType::Float
+        ? QVariant(ShortestOf(value.toFloat()).value).toString()
+        : value.toString();
+}
+
 QString ValueOf(const SFeatureAttribute& attribute, const QString& layer, CFeatureTally& tally)
 {
     bool isWhole = true;
-    const QString value = CodedText(attribute.value.toString(), isWhole);
+    const QString value = CodedText(PlainText(attribute.value), isWhole);
     if (attribute.value.type() != QVariant::String) {
         tally.Lose(QLatin1String(losses::kTypedValues), layer);
     }

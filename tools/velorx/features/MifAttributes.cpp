@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "tools/velorx/features/MifAttributes.h"
 
+#include "tools/velorx/formats/SingleNumber.h"
+
 #include <algorithm>
+#include <limits>
 
 namespace velorx {
 
@@ -13,6 +16,13 @@ bool IsColumn(const CAttributeMIF& attribute, const char* name, QMetaType::Type 
 {
     return attribute.value.userType() == type
         && attribute.name.compare(QLatin1String(name), Qt::CaseInsensitive) == 0;
+}
+
+// Whether the table may tell more digits of a number than the library, which reads Float in single precision.
+bool IsFull(const QVariant& value)
+{
+    return value.userType() == QMetaType::Float
+        && ShortestOf(value.toFloat()).digits > std::numeric_limits<float>::digits10;
 }
 
 } // namespace
@@ -53,6 +63,7 @@ void CMifAttributes::Interpret()
             const bool isFalse =
                 attribute.value.userType() == QMetaType::Bool && !attribute.value.toBool();
             meaning.doubtful += isFalse ? 1 : 0;
+            meaning.shortened += IsFull(attribute.value) ? 1 : 0;
             attributes.push_back({attribute.name, attribute.value});
         }
     }

@@ -25,6 +25,7 @@ struct SMifMeaning
     int code = 0;
     int lostDates = 0; ///< Dates that the library could not read, and which are left out.
     int doubtful = 0; ///< Logical values that read as false, also where the table says "T".
+    int shortened = 0; ///< Numbers of single precision with all the digits that such have.
 };
 
 /// Turns the attributes of a table's objects into those of features. Objects that follow one another and

@@ -3,6 +3,7 @@
 
 #include "tools/velorx/features/MifAttributes.h"
 #include "tools/velorx/features/MifCodePage.h"
+#include "tools/velorx/formats/SingleNumber.h"
 
 #include <QDate>
 #include <QLocale>
@@ -105,16 +106,22 @@ QVariant Storable(const QVariant& value, SMifRow& row)
 
 QVariant AsType(const QVariant& value, int type)
 {
-    QVariant converted = value;
-    if (value.userType() != type) {
-        converted.convert(type);
+    if (value.userType() == type) {
+        return value;
     }
+    const bool isSingle = value.userType() == QMetaType::Float;
+    QVariant converted = isSingle ? QVariant(ShortestOf(value.toFloat()).value) : value;
+    converted.convert(type);
     return converted;
 }
 
-// The library puts a text between quotes as it is.
-QVariant Quoted(const QVariant& value)
+// The library puts a text between quotes as it is, and a number of single precision into the digits of the nearest
+// double.
+QVariant ForLibrary(const QVariant& value)
 {
+    if (value.userType() == QMetaType::Float) {
+        return ShortestOf(value.toFloat()).value;
+    }
     if (value.userType() != QMetaType::QString) {
         return value;
     }
@@ -148,7 +155,7 @@ void CMifColumns::AddOwn(SMifRow& row, const char* name, const QVariant& value)
         columns.push_back({column, stored.userType()});
     }
     Measure(columns[byName.value(column)], stored);
-    row.attributes.push_back({column, Quoted(stored)});
+    row.attributes.push_back({column, ForLibrary(stored)});
 }
 
 void CMifColumns::Add(SMifRow& row, const std::vector<SFeatureAttribute>& attributes)
@@ -163,7 +170,7 @@ void CMifColumns::Add(SMifRow& row, const std::vector<SFeatureAttribute>& attrib
         SColumn& column = ColumnFor(attribute.name, occurrence, value.userType());
         const QVariant stored = AsType(value, column.type);
         Measure(column, stored);
-        row.attributes.push_back({column.name, Quoted(stored)});
+        row.attributes.push_back({column.name, ForLibrary(stored)});
     }
 }
 
@@ -225,6 +232,9 @@ QString CMifColumns::TypeOf(const QString& name) const
     const SColumn& column = columns[*known];
     if (column.type == QMetaType::QString && column.longest > kUsualWidth) {
         return QStringLiteral("CHAR(%1)").arg(column.longest);
+    }
+    if (column.type == QMetaType::Float) {
+        return QStringLiteral("FLOAT");
     }
     // The width counts the sign and the point.
     const int decimals = std::min(column.decimals, kDecimalWidth - 2 - column.whole);

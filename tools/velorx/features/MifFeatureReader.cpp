@@ -102,6 +102,11 @@ void CMifFeatureReader::FillHead(SFeature& feature, const char* kind,
         tally.Lose(QStringLiteral("logical values that do not read \"true\" became false"),
                    feature.layer, meaning.doubtful);
     }
+    if (meaning.shortened > 0) {
+        tally.Lose(QStringLiteral("numbers of Float columns with seven digits or more, of which "
+                                  "about seven are read"),
+                   feature.layer, meaning.shortened);
+    }
     tally.Read(kind);
 }
 

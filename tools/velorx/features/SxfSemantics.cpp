@@ -2,11 +2,10 @@
 #include "tools/velorx/features/SxfSemantics.h"
 
 #include "tools/velorx/features/FeatureTally.h"
+#include "tools/velorx/formats/SingleNumber.h"
 
 #include <QDate>
 #include <QRegularExpression>
-
-#include <limits>
 
 namespace velorx {
 
@@ -72,10 +71,7 @@ PnrSemantic ToSemantic(int code, const QVariant& value)
         SetLongInteger(semantic, value);
         break;
     case QMetaType::Float: // by its own digits and not those of the nearest double
-        SetNumber(semantic, sizeof(double),
-                  QString::number(static_cast<double>(value.toFloat()), 'g',
-                                  std::numeric_limits<float>::max_digits10 - 2)
-                      .toDouble());
+        SetNumber(semantic, sizeof(double), ShortestOf(value.toFloat()).value);
         break;
     case QMetaType::Double:
         SetNumber(semantic, sizeof(double), value);
