@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+#include <sys/resource.h>
+
 #include <filesystem>
 
 namespace velorx::test {
@@ -73,6 +75,25 @@ TEST_F(ConvertMif, DrawingBecomesAFolderOfPairsOneALayer)
     EXPECT_TRUE(std::filesystem::exists(Path("plan/Дороги оси.mif")));
     EXPECT_TRUE(std::filesystem::exists(Path("plan/Дороги оси.mid")));
     EXPECT_FALSE(Contains(File("plan/Дороги оси.mif"), "LAYER"));
+}
+
+TEST_F(ConvertMif, DrawingMayHaveMoreLayersThanFilesAreUsuallyOpen)
+{
+    constexpr int kLayers = 200;
+    std::string lines;
+    for (int i = 0; i < kLayers; ++i) {
+        lines += "0\nLINE\n8\nL" + std::to_string(i) + "\n10\n0\n20\n0\n11\n5\n21\n5\n";
+    }
+    folder.Write("many.dxf", Drawing(lines));
+    rlimit before = {};
+    getrlimit(RLIMIT_NOFILE, &before);
+    rlimit few = before;
+    few.rlim_cur = 64;
+    setrlimit(RLIMIT_NOFILE, &few);
+    const SRun run = Convert({"--to", "mif", Path("many.dxf"), Path("many")});
+    setrlimit(RLIMIT_NOFILE, &before);
+    EXPECT_EQ(run.exitCode, 0) << run.err;
+    EXPECT_EQ(NamesIn(Path("many")).size(), 2U * kLayers);
 }
 
 TEST_F(ConvertMif, TableComesOutAsItWas)

@@ -16,6 +16,8 @@
 #include <QByteArray>
 #include <QFile>
 
+#include <sys/resource.h>
+
 #include <algorithm>
 #include <cmath>
 #include <csignal>
@@ -74,6 +76,16 @@ bool IsAmong(const std::vector<std::string>& paths, const std::string& name)
 {
     return std::any_of(paths.begin(), paths.end(),
                        [&name](const std::string& path) { return IsSamePath(name, path); });
+}
+
+// A folder of tables has one open for each layer, and systems tend to allow a thousand where they could do more.
+void AllowManyFiles()
+{
+    rlimit limit = {};
+    if (getrlimit(RLIMIT_NOFILE, &limit) == 0) {
+        limit.rlim_cur = limit.rlim_max;
+        setrlimit(RLIMIT_NOFILE, &limit);
+    }
 }
 
 bool IsInPlan(const std::string& name, const SConversionPlan& plan)
@@ -173,6 +185,7 @@ EExit CConvertCommand::Run()
     }
     // A file that may not grow any more is then a file that cannot be written, not the end.
     std::signal(SIGXFSZ, SIG_IGN);
+    AllowManyFiles();
     CTemporaries temporaries;
     const CInterruption interruption([&temporaries] { temporaries.Abandon(); });
     return RunPlan(plan, temporaries);
