@@ -207,6 +207,14 @@ TEST_F(SxfFeatureTarget, DashesAreListed)
     EXPECT_EQ(Losses(Report()), "1 dashed lines became solid\n");
 }
 
+TEST_F(SxfFeatureTarget, HiddenAndLockedLayersAreListed)
+{
+    target->TakeLayer({QStringLiteral("A"), false, true});
+    target->TakeLayer({QStringLiteral("B"), true, false});
+    EXPECT_EQ(Losses(Report()), "1 hidden layers are shown\n1 locked layers are open to changes\n");
+    EXPECT_EQ(Report().losses[0].layers[0].first, "A");
+}
+
 TEST_F(SxfFeatureTarget, PicturesAreListed)
 {
     auto image = Feature<SImageFeature>();

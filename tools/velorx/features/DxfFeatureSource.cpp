@@ -26,7 +26,7 @@ constexpr EDxfLoss kKept[] = {
     EDxfLoss::AttDefFlags,     EDxfLoss::TrueBlacks,         EDxfLoss::LayerColours,
     EDxfLoss::LayerLineTypes,  EDxfLoss::LayerLineWeights,   EDxfLoss::LineTypePatterns,
     EDxfLoss::TwoVertexClosed, EDxfLoss::HatchPatternScales, EDxfLoss::DrawingUnits,
-    EDxfLoss::HeaderVariables, EDxfLoss::HiddenAttributes,
+    EDxfLoss::HeaderVariables, EDxfLoss::HiddenAttributes,   EDxfLoss::LayersOff,
 };
 
 // Pictures are counted where they are drawn.

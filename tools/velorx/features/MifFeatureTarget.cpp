@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "tools/velorx/features/MifFeatureTarget.h"
 
+#include "tools/velorx/features/LayerState.h"
 #include "tools/velorx/features/MifAttributes.h"
 #include "tools/velorx/features/MifBrush.h"
 #include "tools/velorx/features/MifCodePage.h"
@@ -64,9 +65,7 @@ void CMifFeatureTarget::TakeHead(const SFeatureHead& head)
 void CMifFeatureTarget::TakeLayer(const SFeatureLayer& layer)
 {
     layersTold.append(layer.name);
-    if (!layer.isVisible) {
-        tally.Lose(QStringLiteral("hidden layers are shown"), layer.name);
-    }
+    LoseLayerState(layer, tally);
 }
 
 // ---- What all features have ---------------------------------------------------------------------

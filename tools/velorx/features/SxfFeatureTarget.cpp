@@ -2,6 +2,7 @@
 #include "tools/velorx/features/SxfFeatureTarget.h"
 
 #include "tools/velorx/features/FeatureTally.h"
+#include "tools/velorx/features/LayerState.h"
 #include "tools/velorx/features/SxfAlign.h"
 #include "tools/velorx/features/SxfTextPlace.h"
 #include "tools/velorx/formats/SxfCodes.h"
@@ -76,6 +77,11 @@ void CSxfFeatureTarget::TakeHead(const SFeatureHead& head)
                                         : kCommonScale;
     output.Begin(head.name.isEmpty() ? QFileInfo(options.name).completeBaseName() : head.name,
                  scale, true);
+}
+
+void CSxfFeatureTarget::TakeLayer(const SFeatureLayer& layer)
+{
+    LoseLayerState(layer, tally);
 }
 
 void CSxfFeatureTarget::FillHead(const SFeature& feature, CBaseObject& object)

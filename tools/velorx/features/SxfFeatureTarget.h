@@ -23,6 +23,7 @@ public:
     CSxfFeatureTarget(const STargetOptions& targetOptions, CFeatureTally& counts, bool isText);
 
     void TakeHead(const SFeatureHead& head) override;
+    void TakeLayer(const SFeatureLayer& layer) override;
     const char* Take(const SPointFeature& point) override;
     const char* Take(const SLineFeature& line) override;
     const char* Take(const SAreaFeature& area) override;
