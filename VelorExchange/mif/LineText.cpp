@@ -174,7 +174,7 @@ void CLineText::Remove(char c)
     }
     if (std::all_of(span.begin, span.end, IsAsciiByte)) {
         QByteArray kept(span.begin, static_cast<int>(span.Size()));
-        const auto last = std::remove(kept.begin(), kept.end(), c);
+        auto* const last = std::remove(kept.begin(), kept.end(), c);
         kept.resize(static_cast<int>(last - kept.begin()));
         Assign(kept);
     } else {

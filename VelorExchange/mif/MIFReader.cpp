@@ -68,7 +68,7 @@ bool CMIFReader::ReadObject(QFile& file)
     struct CKeyword
     {
         CWord word;
-        void (CMIFReader::*parser)(QFile&);
+        void (CMIFReader::*parser)(QFile&) = nullptr;
     };
     // The order tells apart keywords that hold one another.
     static constexpr CKeyword kKeywords[] = {{CWord("Region"), &CMIFReader::ReadRegion},
@@ -82,7 +82,7 @@ bool CMIFReader::ReadObject(QFile& file)
                                              {CWord("Rect"), &CMIFReader::ReadRect},
                                              {CWord("Ellipse"), &CMIFReader::ReadEllipse}};
     for (const CKeyword& keyword : kKeywords) {
-        if (TryClause(keyword.word, boost::bind(keyword.parser, this, boost::ref(file)))) {
+        if (TryClause(keyword.word, [&] { (this->*keyword.parser)(file); })) {
             return true;
         }
     }

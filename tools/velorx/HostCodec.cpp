@@ -81,7 +81,10 @@ QString LocalCodePage()
 {
     const QTextCodec* local = QTextCodec::codecForLocale();
     const auto* host = dynamic_cast<const CHostCodec*>(local);
-    return host != nullptr ? host->PageName() : QString::fromLatin1(local->name());
+    // There is always one.
+    return host != nullptr
+        ? host->PageName()
+        : QString::fromLatin1(local->name()); // NOLINT(clang-analyzer-core.CallAndMessage)
 }
 
 QString PathFromBytes(const std::string& bytes)

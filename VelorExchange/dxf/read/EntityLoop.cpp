@@ -100,7 +100,7 @@ void CDXFReaderImpl::FillName(CNameCache::CName& name, const QString& text) cons
 // that have it. Null for any other.
 const CNameCache::CName* CDXFReaderImpl::KnownName(int code)
 {
-    CTextSpan span;
+    CTextSpan span{};
     if (!tags.Single(code, span) || span.size > CNameCache::kLongestName
         || span.source != CTextSpan::Buffer)
     {

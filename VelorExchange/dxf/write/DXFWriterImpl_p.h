@@ -29,6 +29,8 @@ class CDXFWriterImpl final : public IDXFWriter
 {
 public:
     explicit CDXFWriterImpl(IContext* host);
+    CDXFWriterImpl(const CDXFWriterImpl&) = delete;
+    CDXFWriterImpl& operator=(const CDXFWriterImpl&) = delete;
     ~CDXFWriterImpl() override;
 
     void Init(int newVersion, CExportLog* newLog) override;
@@ -102,7 +104,7 @@ private:
     };
 
     // DXFWriterImpl.cpp
-    void StartFile(QTemporaryFile& file);
+    static void StartFile(QTemporaryFile& file);
     CPoint2D Placed(const CPoint2D& point) const;
     CPoint3D Placed(const CPoint3D& point) const;
     void TakeScale();
