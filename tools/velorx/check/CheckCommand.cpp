@@ -28,7 +28,7 @@ bool IsTextMap(const SFamily& family, const QByteArray& head)
 
 QString Check(const QString& path, SCheckedFile& result)
 {
-    const QString fault = WhyNoFile(path);
+    QString fault = WhyNoFile(path);
     if (!fault.isEmpty()) {
         return fault;
     }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "tools/velorx/check/DxfCounts.h"
 
+#include "tools/velorx/check/Bytes.h"
 #include "tools/velorx/check/DxfKindsOfFinding.h"
 
 #include <QByteArray>
@@ -58,8 +59,7 @@ void CDxfCounts::Take(const SDxfPair& pair, const CDxfStructure& structure)
     for (std::size_t i = 0; i < told.size(); ++i) {
         if (rules[i].countCode != 0 && pair.code == rules[i].countCode) {
             told[i].isTold = true;
-            told[i].count =
-                QByteArray(pair.value.data(), static_cast<int>(pair.value.size())).toLongLong();
+            told[i].count = Bytes(pair.value).toLongLong();
             told[i].place = pair.valuePlace;
         } else if (rules[i].countCode != 0 && pair.code == rules[i].itemCode) {
             ++told[i].met;
@@ -69,16 +69,14 @@ void CDxfCounts::Take(const SDxfPair& pair, const CDxfStructure& structure)
 
 void CDxfCounts::Finish()
 {
-    if (entity >= 0) {
-        for (const STold& counted : told) {
-            if (counted.isTold && counted.count != counted.met) {
-                findings.Add(
-                    dxffindings::kBadCount, counted.place,
-                    QStringLiteral("%1 tells %2, has %3")
-                        .arg(QLatin1String(kEntities[static_cast<std::size_t>(entity)].name))
-                        .arg(counted.count)
-                        .arg(counted.met));
-            }
+    for (const STold& counted : told) {
+        if (entity >= 0 && counted.isTold && counted.count != counted.met) {
+            const char* name = kEntities[static_cast<std::size_t>(entity)].name;
+            findings.Add(dxffindings::kBadCount, counted.place,
+                         QStringLiteral("%1 tells %2, has %3")
+                             .arg(QLatin1String(name))
+                             .arg(counted.count)
+                             .arg(counted.met));
         }
     }
     told = {};

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "tools/velorx/check/DxfTexts.h"
 
+#include "tools/velorx/check/Bytes.h"
 #include "tools/velorx/check/DxfKindsOfFinding.h"
 #include "tools/velorx/check/Encoding.h"
 
@@ -11,11 +12,6 @@ namespace {
 constexpr int kVariableCode = 9;
 constexpr int kFirstUtf8Version = 1019;
 constexpr int kIbm866Version = 1006;
-
-QByteArray Bytes(std::string_view value)
-{
-    return QByteArray(value.data(), static_cast<int>(value.size()));
-}
 
 // "ANSI_1251" and "dos866" under the names that Qt knows.
 QByteArray CodecName(const QByteArray& codePage)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "tools/velorx/check/MifRowCheck.h"
 
+#include "tools/velorx/check/Bytes.h"
 #include "tools/velorx/check/Encoding.h"
 #include "tools/velorx/check/MifKindsOfFinding.h"
 #include "tools/velorx/formats/SingleNumber.h"
@@ -17,11 +18,6 @@ using namespace miffindings;
 namespace {
 
 constexpr char kQuote = '"';
-
-QByteArray Bytes(std::string_view text)
-{
-    return QByteArray(text.data(), static_cast<int>(text.size()));
-}
 
 bool IsNumber(std::string_view field)
 {

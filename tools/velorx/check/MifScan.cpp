@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "tools/velorx/check/MifScan.h"
 
+#include "tools/velorx/check/Bytes.h"
 #include "tools/velorx/check/Encoding.h"
 #include "tools/velorx/check/MifKindsOfFinding.h"
 
@@ -11,11 +12,6 @@
 namespace velorx {
 
 namespace {
-
-QByteArray Bytes(std::string_view text)
-{
-    return QByteArray(text.data(), static_cast<int>(text.size()));
-}
 
 bool IsLetter(char c)
 {

@@ -37,7 +37,7 @@ public:
     SPlace Place() const { return {lines.Line(), lines.Byte()}; }
 
     /// The header tells this codec; empty for none.
-    void SetCharset(const QByteArray& codec);
+    void SetCharset(const QByteArray& name);
 
 private:
     void CheckText();

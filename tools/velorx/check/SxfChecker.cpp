@@ -27,7 +27,7 @@ constexpr qint32 kVersion = 0x40000;
 constexpr qint32 kHeaderLength = 400;
 constexpr qint32 kDescriptorMagic = 0x544144; // "DAT" and a zero
 constexpr qint32 kDescriptorLength = 52;
-constexpr qint64 kBlockSize = 1024 * 1024;
+constexpr qint64 kBlockSize = 1048576;
 
 // The sum is one of signed bytes.
 quint32 SumOf(const QByteArray& bytes)

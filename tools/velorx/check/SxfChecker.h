@@ -21,7 +21,7 @@ private:
     void CheckRecords(VelorExchange::dxf::IDXFProgress* progress);
     bool CheckRecord();
     bool FindRecord();
-    qint32 Number(qint64 position);
+    qint32 Number(qint64 offset);
 
     QFile file;
     CFindings* findings = nullptr; ///< Of the run at hand.

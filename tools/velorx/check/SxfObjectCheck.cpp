@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "tools/velorx/check/SxfObjectCheck.h"
 
+#include "tools/velorx/check/Bytes.h"
 #include "tools/velorx/check/Encoding.h"
 #include "tools/velorx/check/SxfKindsOfFinding.h"
 
@@ -17,11 +18,6 @@ using namespace sxffindings;
 namespace {
 
 constexpr const char* kKinds[] = {"LIN", "SQR", "DOT", "VEC", "TIT", "MIX"};
-
-QByteArray Bytes(std::string_view text)
-{
-    return QByteArray(text.data(), static_cast<int>(text.size()));
-}
 
 bool IsNumber(std::string_view token)
 {

@@ -8,7 +8,7 @@ namespace velorx {
 
 namespace {
 
-constexpr std::size_t kBlockSize = 256 * 1024;
+constexpr std::size_t kBlockSize = 262144;
 
 bool IsBlank(char c)
 {
