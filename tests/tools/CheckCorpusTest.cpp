@@ -37,6 +37,7 @@ const std::map<std::string, CKinds>& KnownFaults()
         {"dxf/gdal/clusterfuzz-testcase-minimized-shape_fuzzer-6126814756995072.dxf",
          {"bad-code", "no-end", "no-start"}},
         {"dxf/gdal/elliptical-arc-hatch-min.dxf", {"no-end"}},
+        {"dxf/gdal/insert-recursive-pair.dxf", {"block-loop"}},
         {"dxf/gdal/insert-too-many-errors.dxf", {"bad-code", "no-end", "stray"}},
         {"dxf/gdal/spline_closed.dxf", {"bad-count"}},
         {"dxf/gdal/text.dxf", {"stray"}},

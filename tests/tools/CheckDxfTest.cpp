@@ -234,6 +234,29 @@ TEST(CheckDxf, FindsInsertsOfBlocksThatAreNotDefined)
               Strings({"no-block line 34: C"}));
 }
 
+TEST(CheckDxf, FindsBlocksThatHoldThemselves)
+{
+    const std::string itself = Section("BLOCKS", "0\nBLOCK\n2\nA\n0\nINSERT\n2\na\n0\nENDBLK\n");
+    EXPECT_EQ(Found(itself + Entities("")), Strings({"block-loop line 12: A"}));
+    const std::string three =
+        Section("BLOCKS",
+                "0\nBLOCK\n2\nA\n0\nINSERT\n2\nB\n0\nENDBLK\n"
+                "0\nBLOCK\n2\nB\n0\nINSERT\n2\nC\n0\nENDBLK\n"
+                "0\nBLOCK\n2\nC\n0\nINSERT\n2\nA\n0\nINSERT\n2\nB\n0\nENDBLK\n");
+    EXPECT_EQ(Found(three + Entities("")),
+              Strings({"block-loop line 32: A", "block-loop line 36: B"}));
+}
+
+TEST(CheckDxf, BlocksThatShareAnotherAreNoLoop)
+{
+    EXPECT_EQ(Found(Section("BLOCKS",
+                            "0\nBLOCK\n2\nA\n0\nINSERT\n2\nB\n0\nINSERT\n2\nC\n0\nENDBLK\n"
+                            "0\nBLOCK\n2\nB\n0\nINSERT\n2\nC\n0\nENDBLK\n"
+                            "0\nBLOCK\n2\nC\n0\nENDBLK\n")
+                    + Entities("0\nINSERT\n2\nA\n0\nINSERT\n2\nA\n")),
+              Strings());
+}
+
 TEST(CheckDxf, FindsTextOutsideOfItsCodePage)
 {
     const std::string header = Section("HEADER", "9\n$ACADVER\n1\nAC1021\n");

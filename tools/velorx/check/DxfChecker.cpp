@@ -38,6 +38,7 @@ public:
             if (pair.code != kComment) {
                 CheckDxfValue(pair, findings);
                 references.Take(pair, structure);
+                blockLoops.Take(pair, structure);
                 counts.Take(pair, structure);
             }
             texts.Take(pair);
@@ -48,6 +49,7 @@ public:
         counts.Finish();
         structure.Finish(Here());
         references.Finish(findings);
+        blockLoops.Finish(findings);
         if (!isStarted) {
             findings.Add(kNoStart, Here());
         }
@@ -138,6 +140,7 @@ private:
     CDxfStructure structure;
     CDxfTexts texts;
     CDxfReferences references;
+    CDxfBlockLoops blockLoops;
     CDxfCounts counts;
     SDxfPair pair;
     QString badCode;

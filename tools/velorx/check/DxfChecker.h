@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "tools/velorx/check/DxfBlockLoops.h"
 #include "tools/velorx/check/DxfCounts.h"
 #include "tools/velorx/check/DxfPair.h"
 #include "tools/velorx/check/DxfReferences.h"

@@ -57,6 +57,8 @@ inline constexpr SFindingKind kNoStyle = {"no-style", kRemark,
                                           "texts in styles that are not defined", true};
 inline constexpr SFindingKind kNoBlock = {"no-block", kFault,
                                           "inserts of blocks that are not defined", true};
+inline constexpr SFindingKind kBlockLoop = {"block-loop", kFault,
+                                            "inserts through which a block holds itself"};
 inline constexpr SFindingKind kBadText = {"bad-text", kFault,
                                           "texts with bytes that mean nothing in their code page"};
 inline constexpr SFindingKind kOtherCodePage = {
